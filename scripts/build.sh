@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Configures and builds one build tree: scripts/build.sh <dir> [cmake options...]
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+dir="$1"
+shift
+mkdir -p "$dir"
+cmake -S "$root" -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" > "$dir/configure.log" 2>&1 \
+    || { cat "$dir/configure.log"; exit 1; }
+cmake --build "$dir" --parallel

@@ -1,0 +1,28 @@
+#pragma once
+
+// The program's string table: every text a user sees, by string id, in the
+// language of the session (translations are installed as Qt translators in
+// the context "StringTable").
+
+#include <cstdint>
+#include <string>
+
+namespace strings {
+
+// String ids used across several parts of the program.
+constexpr uint32_t kConfigurationError = 900;
+constexpr uint32_t kInformation = 901;
+constexpr uint32_t kWarning = 902;
+constexpr uint32_t kError = 903;
+constexpr uint32_t kRangeMessage = 1000;
+constexpr uint32_t kApplicationName = 57344;
+constexpr uint32_t kWarningCaption = 57353;
+constexpr uint32_t kLengthMessage = 57354;
+
+}  // namespace strings
+
+// The text of a string id, translated; empty text for an id not in the table.
+std::string LoadString(uint32_t id);
+
+// Whether the table has the id.
+bool HasString(uint32_t id);

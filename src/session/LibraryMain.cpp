@@ -1,0 +1,3 @@
+// Library start of libQ9CfgUL.so. The exported entry points are declared in
+// the public header and defined with the session frame.
+#include "platform/ModuleDirectory.h"
