@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# Builds everything and runs the main job on the bundled demo installation.
+# Builds everything, lays out the demo installation in build/demo and runs the
+# main job on it. Nothing outside build/demo is touched: the libraries keep
+# their files in their own directory, the registry stand-in in build/demo/registry.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 cd "$root"
@@ -7,11 +9,23 @@ cd "$root"
 bash scripts/install-deps.sh
 bash scripts/build.sh build
 
+demo="$root/build/demo"
+unset Q9_INSTALL_DIR Q9_REGISTRY_DIR Q9_HOST_VERSION
+export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}"
+
 echo
-echo "Built:"
-for file in build/src/libQ9CfgUL.so build/tests/q9_*_tests build/bench/q9_bench; do
-    [ -e "$file" ] && echo "  $file"
-done
+echo "Demo installation: $demo"
+ls "$demo"
 echo
-echo "The library builds; the demo installation and the host program that opens"
-echo "the configuration dialog are not part of this build yet."
+if [ -x "$demo/q9admin" ]; then
+    echo "Protection level in the store (1 High, 2 Medium, 4 Low, 8 Customized):"
+    "$demo/q9admin" store get-dword 0 59
+    echo "Function switch words (section 14, keys 42, 44, 46):"
+    for key in 42 44 46; do "$demo/q9admin" store get-dword 14 "$key"; done
+fi
+echo
+echo "Calling the library as the product's programs do (q9cfg):"
+"$demo/q9cfg" report
+echo
+echo "The configuration dialog itself is not part of this build yet; the demo"
+echo "installation above holds the library, its sibling libraries and their data."

@@ -1,5 +1,6 @@
 #include "framework/MessageService.h"
 
+#include <QCoreApplication>
 #include <cstdio>
 
 namespace msg {
@@ -21,16 +22,13 @@ int32_t DefaultAnswer(uint32_t type) {
 
 }  // namespace msg
 
-namespace {
+int32_t ConsoleMessageService::Show(QWidget*, const std::string& text, const std::string& caption,
+                                    uint32_t type) {
+    std::fprintf(stderr, "[%s] %s\n", caption.c_str(), text.c_str());
+    return msg::DefaultAnswer(type);
+}
 
-class ConsoleMessageService final : public MessageService {
-public:
-    int32_t Show(QWidget*, const std::string& text, const std::string& caption,
-                 uint32_t type) override {
-        std::fprintf(stderr, "[%s] %s\n", caption.c_str(), text.c_str());
-        return msg::DefaultAnswer(type);
-    }
-};
+namespace {
 
 ConsoleMessageService g_consoleService;
 MessageService* g_currentService = nullptr;
@@ -50,4 +48,8 @@ MessageService* MessageService::Install(MessageService* service) {
 int32_t ShowMessage(QWidget* owner, const std::string& text, const std::string& caption,
                     uint32_t type) {
     return MessageService::Current().Show(owner, text, caption, type);
+}
+
+int32_t ShowApplicationMessage(QWidget* owner, const std::string& text, uint32_t type) {
+    return ShowMessage(owner, text, QCoreApplication::applicationName().toStdString(), type);
 }

@@ -47,8 +47,8 @@ class MessageService {
 public:
     virtual ~MessageService() = default;
 
-    // Shows one box and returns the answer (msg::kId*). An empty caption means
-    // the application's name.
+    // Shows one box and returns the answer (msg::kId*). The caption is shown
+    // as given, also when empty.
     virtual int32_t Show(QWidget* owner, const std::string& text, const std::string& caption,
                          uint32_t type) = 0;
 
@@ -62,6 +62,17 @@ public:
     static MessageService* Install(MessageService* service);
 };
 
+// Writes each box to standard error as "[caption] text" and answers its
+// default button: the service where no window can be shown.
+class ConsoleMessageService final : public MessageService {
+public:
+    int32_t Show(QWidget* owner, const std::string& text, const std::string& caption,
+                 uint32_t type) override;
+};
+
 // Shows a box through the current service.
 int32_t ShowMessage(QWidget* owner, const std::string& text, const std::string& caption,
                     uint32_t type);
+
+// Shows a box whose caption is the application's name (the session sets it).
+int32_t ShowApplicationMessage(QWidget* owner, const std::string& text, uint32_t type);

@@ -1,5 +1,7 @@
 #include "framework/QtMessageService.h"
 
+#include "framework/GuiApplication.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -41,11 +43,11 @@ QMessageBox::Icon IconFor(uint32_t type) {
 
 int32_t QtMessageService::Show(QWidget* owner, const std::string& text, const std::string& caption,
                                uint32_t type) {
+    if (!EnsureGuiApplication()) return ConsoleMessageService().Show(owner, text, caption, type);
     QMessageBox box(owner);
     box.setIcon(IconFor(type));
     box.setText(QString::fromStdString(text));
-    box.setWindowTitle(caption.empty() ? QCoreApplication::applicationName()
-                                       : QString::fromStdString(caption));
+    box.setWindowTitle(QString::fromStdString(caption));
     const std::vector<Button> buttons = ButtonsFor(type);
     for (const auto& [button, answer] : buttons) box.addButton(button);
 

@@ -125,4 +125,27 @@ bool CreateDirectories(const std::string& path, int* errorNumber, mode_t mode) {
     return true;
 }
 
+bool ReadAllFrom(int fd, std::string* text) {
+    char buffer[65536];
+    for (;;) {
+        const ssize_t got = ::read(fd, buffer, sizeof buffer);
+        if (got == 0) return true;
+        if (got < 0) {
+            if (errno == EINTR) continue;
+            return false;
+        }
+        text->append(buffer, static_cast<size_t>(got));
+    }
+}
+
+int ReadWholeFile(const std::string& path, std::string* text) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return errno;
+    const bool complete = ReadAllFrom(fd, text);
+    const int error = complete ? 0 : errno;
+    ::close(fd);
+    if (!complete) text->clear();
+    return error;
+}
+
 }  // namespace platform

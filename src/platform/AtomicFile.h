@@ -42,4 +42,12 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, int* e
 bool CreateDirectories(const std::string& path, int* errorNumber,
                        mode_t mode = kDefaultDirectoryMode);
 
+// Appends everything left to read from fd to *text. False on a read error
+// (errno tells which).
+bool ReadAllFrom(int fd, std::string* text);
+
+// The whole file at path into *text: 0, or the errno of the failure (ENOENT
+// for a missing file); *text is left empty on failure.
+int ReadWholeFile(const std::string& path, std::string* text);
+
 }  // namespace platform

@@ -37,19 +37,6 @@ int32_t WriteFailure(const std::string& what, int error) {
     return StatusForError(error);
 }
 
-bool ReadAll(int fd, std::string* text) {
-    char buffer[65536];
-    while (true) {
-        const ssize_t got = read(fd, buffer, sizeof buffer);
-        if (got == 0) return true;
-        if (got < 0) {
-            if (errno == EINTR) continue;
-            return false;
-        }
-        text->append(buffer, static_cast<size_t>(got));
-    }
-}
-
 }  // namespace
 
 HiveFile::HiveFile(std::string fileName, std::string rootName)
@@ -140,7 +127,7 @@ HiveFile::Snapshot HiveFile::ReadFile(const std::string& path, Signature* signat
     }
     *signature = SignatureFromStat(path, info);
     std::string text;
-    if (!ReadAll(fd, &text)) snapshot.readError = errno;
+    if (!ReadAllFrom(fd, &text)) snapshot.readError = errno;
     close(fd);
     if (snapshot.readError == 0) snapshot.corrupt = !hive->Parse(text, parseError);
     return snapshot;

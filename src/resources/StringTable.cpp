@@ -18,6 +18,13 @@ constexpr StringEntry kStrings[] = {
     {902, QT_TRANSLATE_NOOP("StringTable", "Warning")},
     {903, QT_TRANSLATE_NOOP("StringTable", "Error")},
     {1000, QT_TRANSLATE_NOOP("StringTable", "Please enter the values between %s ~ %s.")},
+    {1021, QT_TRANSLATE_NOOP("StringTable",
+                             "Sorry, you are not authorized to execute this task. (%d)\nPlease ask "
+                             "the administrator for more details.")},
+    {1023, QT_TRANSLATE_NOOP("StringTable", "A new virus has been detected.")},
+    {1024, QT_TRANSLATE_NOOP("StringTable", "Infected by viruses.")},
+    {1025, QT_TRANSLATE_NOOP("StringTable", "Failed to initialize the Self Scan.")},
+    {1026, QT_TRANSLATE_NOOP("StringTable", "Unable to execute.")},
     {57344, QT_TRANSLATE_NOOP("StringTable", "Configuration")},
     {57353, QT_TRANSLATE_NOOP("StringTable", "Warning")},
     {57354, QT_TRANSLATE_NOOP("StringTable",

@@ -57,10 +57,24 @@ TEST(QtMessageService, ExclamationOkCancelAnswersCancel) {
     EXPECT_EQ(service.Show(nullptr, "t", "c", msg::kOkCancel | msg::kIconWarning), msg::kIdCancel);
 }
 
-TEST(QtMessageService, EmptyCaptionBearsTheApplicationName) {
+TEST(QtMessageService, EmptyCaptionAndTextShowAnEmptyBox) {
     QtMessageService service;
+    QCoreApplication::setApplicationName("Configuration");
+    WhenShown(
+        [](QMessageBox* box) {
+            EXPECT_EQ(box->windowTitle(), "");
+            EXPECT_EQ(box->text(), "");
+        },
+        QMessageBox::Ok);
+    EXPECT_EQ(service.Show(nullptr, "", "", 7), msg::kIdOk);
+}
+
+TEST(QtMessageService, ApplicationMessagesBearTheApplicationName) {
+    QtMessageService service;
+    MessageService* previous = MessageService::Install(&service);
     QCoreApplication::setApplicationName("Configuration");
     WhenShown([](QMessageBox* box) { EXPECT_EQ(box->windowTitle(), "Configuration"); },
               QMessageBox::Ok);
-    EXPECT_EQ(service.Show(nullptr, "", "", 7), msg::kIdOk);
+    EXPECT_EQ(ShowApplicationMessage(nullptr, "text", msg::kOk), msg::kIdOk);
+    MessageService::Install(previous);
 }

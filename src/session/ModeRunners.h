@@ -1,0 +1,27 @@
+#pragma once
+
+// What each mode of a session runs. The dialogs and the silent steps live in
+// their own parts of the library; an entry here that has nothing to run yet
+// answers as for a dialog that cannot be made.
+
+#include <cstdint>
+
+// The window handle of the configuration dialog or single-page shell that is
+// open in any process of this machine, or 0.
+uint32_t OpenConfigWindow();
+// Clears it when the dialog of this process has closed.
+void ClearConfigWindow();
+// Brings the window another process registered to the front.
+void BringConfigWindowForward(uint32_t window);
+
+// Mode 0: the configuration dialog; its modal result (1 OK, 2 Cancel, -1 not
+// made). *lastPage gets the page selected last.
+int32_t RunConfigDialog(uint64_t parent, uint32_t flags, int32_t page, int32_t* lastPage);
+// Mode 1: the configuration wizard.
+int32_t RunWizard(uint64_t parent, uint32_t flags);
+// Mode 2: one page in its own shell.
+int32_t RunSinglePage(uint64_t parent, uint32_t flags, int32_t page);
+// Silent mode 0: merge the policy and bring the product in line with the store.
+void RunSilentPolicy(const char* basePath, const char* policyPath, int32_t monitorFlag);
+// Silent mode 1: the wizard's settings without a window.
+void RunSilentWizard(uint32_t flags);

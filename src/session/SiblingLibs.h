@@ -1,0 +1,152 @@
+#pragma once
+
+// The product's other libraries, bound at run time. An edition may ship
+// without any of them, so every binding turns absence into a plain result:
+// a missing library or entry point gives 0, null or empty text, silently,
+// and the program goes on. No caller ever sees a load failure as such.
+//
+// Libraries are found as lib<Name>.so in g_szModuleDir. Each library with a
+// handle is loaded by its load step on first need and kept until Release;
+// the secure profile library (OrvInst) and, for the language id, the
+// language library (OrvI18N) are loaded for one call and freed again.
+// Entry points are looked up by name at every call, so there is no cache to
+// keep consistent.
+//
+// The second job of this object is the pending mask: the switch bits of the
+// functions that a page of this session changed in the store and whose
+// registration has not been refreshed yet. While a function's bit is pending
+// (or a protection level is pending), asking whether it is registered
+// answers the user's choice from the store instead of the service's present
+// state, so that all pages of a session agree.
+
+#include <cstdint>
+#include <string>
+
+#include "platform/SharedLibrary.h"
+#include "session/NetworkDrives.h"
+
+// The operations of ServiceControl. Any op other than 1 to 4 asks
+// CanBeRegister.
+enum ServiceControlOp : int32_t {
+    SC_CanBeRegister = 0,
+    SC_IsRegistered = 1,
+    SC_Register = 2,
+    SC_Unregister = 3,
+    SC_SetCfgChanged = 4,
+};
+
+// The option every caller but the silent policy step passes.
+constexpr int32_t kServiceOption = 2;
+// How long Unregister waits for a function to stop.
+constexpr int32_t kUnregisterTimeoutMs = 5000;
+
+// Secure profile files beside the library.
+constexpr const char* kSecProfileFile = "Q9Sec.dat";
+constexpr const char* kWarnMailProfileFile = "Q9WM.dat";
+
+class CSiblingLibs {
+public:
+    CSiblingLibs() = default;
+    ~CSiblingLibs();
+
+    CSiblingLibs(const CSiblingLibs&) = delete;
+    CSiblingLibs& operator=(const CSiblingLibs&) = delete;
+
+    // Load steps: 1 when the library is loaded (at once when it already
+    // is), else 0.
+    int32_t LoadSSCtrl();
+    int32_t LoadP3Athl();
+    int32_t LoadIMcfg();
+    int32_t LoadMsgFlt();
+    int32_t LoadDMZ();
+
+    // Frees every loaded library, in the order Q9SSCtrl, Q9P3ATHL, Q9IMcfg,
+    // OrvDMZ, Q9MsgFlt. The pending mask stays as it is.
+    void Release();
+
+    // Function registration, the single door to Q9SSCtrl. op 1 on a function
+    // whose bit is pending, or while g_bLevelPending is set, answers from the
+    // store (see StoredSwitchState) without asking the library. Otherwise
+    // the entry point's result: op 3 is Unregister(item, 5000, option); the
+    // other ops pass the item alone. 0 when the library or entry point is
+    // missing.
+    int32_t ServiceControl(int32_t op, int32_t item, int32_t option);
+
+    // Or-s setBits into the pending mask, then removes clearBits; returns the
+    // mask as it was before.
+    uint32_t MarkPending(uint32_t setBits, uint32_t clearBits);
+    uint32_t GetPending() const;
+
+    // Whether the user may change registrations; 0 when missing.
+    int32_t HasEnoughPrivilege();
+
+    // Mail accounts (Q9P3ATHL). Texts are copied at once; empty when missing.
+    void* P3Create();
+    void P3Free(void* accounts);
+    int32_t P3Load(void* accounts);
+    int32_t P3Save(void* accounts, uint32_t flags);
+    int32_t P3GetCount(void* accounts);
+    std::string P3GetProfileName(void* accounts, int32_t index);
+    int32_t P3GetProtected(void* accounts, int32_t index);
+    int32_t P3SetProtected2(void* accounts, int32_t index, uint32_t on);
+    std::string P3GetMUAName(void* accounts, int32_t index);
+
+    // Instant messengers (Q9IMcfg): non-zero when that messenger is installed.
+    int32_t GetIMInstall(int32_t index);
+
+    // Spam filter (Q9MsgFlt). DoProperty opens the filter's own rule editor
+    // and answers 1 when the rules changed.
+    int32_t MsgFltInitManager();
+    int32_t MsgFltReleaseManager();
+    int32_t MsgFltDoProperty();
+    int32_t MsgFltApplyRules(uint32_t low, uint32_t high);
+    int32_t MsgFltReloadManager();
+    int32_t MsgFltWriteRules();
+    int32_t MsgFltGetRuleCount();
+
+    // The shared exclusion zone (OrvDMZ). DMZEnum returns the bytes needed.
+    void* DMZCreate();
+    int32_t DMZAdd(void* zone, const char* owner, const char* owner2, const void* records);
+    int32_t DMZEnum(void* zone, const char* owner, const char* owner2, void* buffer, int32_t size);
+    int32_t DMZDelete(void* zone, const char* owner, const char* owner2);
+    void DMZDestroy(void* zone);
+
+    // Network drives (see CNetworkDrives).
+    int32_t GetConnection(const char* localName, char* remoteName, uint32_t* length);
+    int32_t AddConnection(const NetResource& resource, const char* password, const char* userName,
+                          uint32_t flags);
+    std::string GetRemoteName(const std::string& drive, int32_t scope);
+
+    // Secure profiles (OrvInst), each loading the library for the one call.
+    // GetSecInt reads "Q9WM.dat" when useWarnMail is exactly 1, otherwise
+    // "Q9Sec.dat"; 0 when missing.
+    int32_t GetSecInt(const char* section, const char* key, int32_t useWarnMail);
+    // The value from fileName (beside the library), at most 1023 bytes; the
+    // default when the key has no value or the library is missing.
+    std::string GetSecString(const char* section, const char* key, const char* defaultText,
+                             const char* fileName);
+    // Write into "Q9WM.dat": 1 when the entry point was reached, else 0.
+    int32_t WriteSecString(const char* section, const char* key, const char* value);
+    int32_t WriteSecInt(const char* section, const char* key, int32_t value);
+    // A product text of "Q9Sec.dat": the language-specific key ("1031_Key"
+    // under a German session) first, then the plain key, then defaultText.
+    // Empty text when the library is missing.
+    std::string GetProductString(const char* section, const char* key, const char* defaultText);
+
+    // The session's language id (OrvI18N), low 16 bits; 0 when missing.
+    uint32_t GetLanguageId();
+
+private:
+    bool IsPending(int32_t item) const;
+    int32_t CallSSCtrl(int32_t op, int32_t item, int32_t option);
+
+    uint32_t m_pendingMask = 0;
+    platform::SharedLibrary m_hSSCtrl;
+    platform::SharedLibrary m_hP3Athl;
+    platform::SharedLibrary m_hIMcfg;
+    platform::SharedLibrary m_hMsgFlt;
+    platform::SharedLibrary m_hDMZ;
+    CNetworkDrives m_network;  // the network drives need no library here
+};
+
+extern CSiblingLibs g_Siblings;

@@ -1,0 +1,143 @@
+// Q9CfgUL_DoModal through the loaded library: the gates, the order of its
+// steps and its results, seen in the registration journal and the store.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <string>
+
+#include "BoxAnswerer.h"
+#include "CallerInstallation.h"
+#include "Q9CfgE.h"
+#include "platform/SharedWord.h"
+#include "q9cfgul.h"
+
+namespace {
+
+using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
+
+class DoModalTest : public testing::Test {
+protected:
+    void SetUp() override { Q9CfgE_SetStyleEx(257, "", 0); }
+    void TearDown() override { Q9CfgE_SetStyleEx(257, "", 0); }
+
+    // An installation with function registration present, privileged or not.
+    void Install(std::initializer_list<const char*> siblings, bool privileged = true) {
+        caller = std::make_unique<CallerInstallation>(siblings);
+        caller->install.Write("Q9SSCtrl.ini",
+                              std::string("[Privilege]\nEnough=") + (privileged ? "1" : "0") + "\n");
+        ASSERT_NE(caller->Load(), nullptr) << dlerror();
+        doModal = caller->Entry<DoModalFn>("Q9CfgUL_DoModal");
+        ASSERT_NE(doModal, nullptr);
+    }
+    std::string Journal() const { return caller->install.Read("Q9SSCtrl.journal"); }
+    static bool AnyWindowShown() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->isVisible()) return true;
+        }
+        return false;
+    }
+
+    std::unique_ptr<CallerInstallation> caller;
+    DoModalFn* doModal = nullptr;
+};
+
+constexpr const char* kPrivilegeCall = "Q9SSCtrl_HasEnoughPrivilege\t-\t-\t";
+
+}  // namespace
+
+TEST_F(DoModalTest, PageBeyondTheLastAnswersMinusOneBeforeThePrivilegeCheck) {
+    Install({"Q9SSCtrl"});
+    BoxAnswerer boxes;
+    int32_t page = 41;
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, &page, nullptr, nullptr), -1);
+    page = -1;
+    EXPECT_EQ(doModal(0, DMF_ModeSinglePage, &page, nullptr, nullptr), -1);
+    EXPECT_EQ(Journal(), "");
+    EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(DoModalTest, UnknownModeWithFullPrivilegesPassesTheGatesAndAnswersMinusOne) {
+    Install({"Q9SSCtrl"});
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, 5, nullptr, nullptr, nullptr), -1);
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n");
+    EXPECT_TRUE(boxes.boxes.empty());
+    EXPECT_FALSE(AnyWindowShown());
+}
+
+TEST_F(DoModalTest, RefusedPrivilegeSaysSoAndAnswersTwo) {
+    Install({"Q9SSCtrl"}, false);
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, 5, nullptr, nullptr, nullptr), 2);
+    ASSERT_EQ(boxes.boxes.size(), 1u);
+    EXPECT_EQ(boxes.boxes[0].title, "Warning");
+    EXPECT_TRUE(boxes.boxes[0].text.startsWith(
+        "Sorry, you are not authorized to execute this task. ("));
+    EXPECT_TRUE(boxes.boxes[0].text.endsWith(
+        ")\nPlease ask the administrator for more details."));
+}
+
+TEST_F(DoModalTest, SilentCallWithRefusedPrivilegeShowsNothingAndAnswersTwo) {
+    Install({"Q9SSCtrl"}, false);
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_Silent, nullptr, nullptr, nullptr), 2);
+    EXPECT_TRUE(boxes.boxes.empty());
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "0\n");
+}
+
+TEST_F(DoModalTest, MissingRegistrationLibraryCountsAsNoPrivilege) {
+    Install({});
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_Silent, nullptr, nullptr, nullptr), 2);
+    EXPECT_TRUE(boxes.boxes.empty());
+}
+
+TEST_F(DoModalTest, SilentDialogModeWritesTheProtectionLevelBackAndAnswersOne) {
+    Install({"Q9SSCtrl"});
+    caller->install.Write("Q9CfgDef.dat",
+                          "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000004\n");
+    EXPECT_FALSE(caller->install.Exists("Q9Cfg.dat"));
+    EXPECT_EQ(doModal(0, DMF_Silent, nullptr, nullptr, nullptr), 1);
+    EXPECT_NE(caller->install.Read("Q9Cfg.dat").find("CEK_ProtectLevel=dword:00000004"),
+              std::string::npos);
+}
+
+TEST_F(DoModalTest, NamedStoreFileIsSelectedBeforeAnythingIsRead) {
+    Install({"Q9SSCtrl"});
+    const std::string named = caller->install.PathOf("Other.dat");
+    caller->install.Write("Other.dat",
+                          "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000001\n");
+    EXPECT_EQ(doModal(0, DMF_Silent, nullptr, named.c_str(), nullptr), 1);
+    EXPECT_EQ(Q9CfgE_GetDWEx(0, 59), 1u);
+    EXPECT_FALSE(caller->install.Exists("Q9Cfg.dat"));
+}
+
+TEST_F(DoModalTest, ProductPasswordRefusedAnswersTwo) {
+    Install({"Q9SSCtrl"});
+    ASSERT_EQ(Q9CfgE_SetDWEx(3, 7, 1), 1);
+    ASSERT_EQ(Q9CfgE_SetEncStrEx(3, 9, "right"), 1);
+    // The prompt is answered with Cancel.
+    QTimer cancel;
+    int prompts = 0;
+    QObject::connect(&cancel, &QTimer::timeout, [&prompts] {
+        if (QWidget* prompt = QApplication::activeModalWidget()) {
+            ++prompts;
+            prompt->close();
+        }
+    });
+    cancel.start(10);
+    EXPECT_EQ(doModal(0, 5, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(prompts, 1);
+    // Skipping authentication lets the same call through to the unknown mode.
+    EXPECT_EQ(doModal(0, 5 | DMF_NoAuthenticate, nullptr, nullptr, nullptr), -1);
+}
+
+TEST_F(DoModalTest, OpenConfigurationWindowElsewhereAnswersTwoAfterAuthentication) {
+    Install({"Q9SSCtrl"});
+    platform::SharedWord word(platform::kConfigWindowWordName);
+    const uint32_t previous = word.Exchange(0x4242);
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n");
+    word.Exchange(previous);
+}

@@ -1,0 +1,174 @@
+// The wrappers of the mail account, messenger, spam filter and exclusion zone
+// libraries, against the built libraries, without them, and against a
+// library without their entry points.
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "BindingTest.h"
+#include "session/SiblingLibs.h"
+
+namespace {
+
+constexpr const char* kOwner = "Q9Pro2004";
+
+class SiblingWrappersTest : public BindingTest {};
+
+// One zone record: size, in use, flags, constant 1, owner field, path and 4
+// zero bytes.
+std::vector<uint8_t> ZoneRecord(const std::string& path, uint32_t flags) {
+    const uint32_t size = static_cast<uint32_t>(path.size()) + 541;
+    std::vector<uint8_t> record(size, 0);
+    const uint32_t header[4] = {size, 1, flags, 1};
+    std::memcpy(record.data(), header, sizeof header);
+    std::memcpy(record.data() + 536, path.c_str(), path.size() + 1);
+    return record;
+}
+
+std::vector<uint8_t> ZoneBuffer(const std::vector<uint8_t>& record) {
+    std::vector<uint8_t> buffer = record;
+    buffer.resize(buffer.size() + 4, 0);  // the terminator
+    return buffer;
+}
+
+uint32_t WordAt(const std::vector<uint8_t>& buffer, size_t offset) {
+    uint32_t value = 0;
+    std::memcpy(&value, buffer.data() + offset, sizeof value);
+    return value;
+}
+
+}  // namespace
+
+TEST_F(SiblingWrappersTest, MailAccountsRoundTrip) {
+    AddSibling("Q9P3ATHL");
+    Install().Write("Q9P3Accounts.ini",
+                    "[Account1]\nProfile=alice@example.org\nClient=Desk Mail\nProtected=1\n\n"
+                    "[Account2]\nProfile=bob@example.net\nClient=Terminal Mailer\nProtected=0\n");
+    void* accounts = g_Siblings.P3Create();
+    ASSERT_NE(accounts, nullptr);
+    EXPECT_EQ(g_Siblings.P3Load(accounts), 1);
+    ASSERT_EQ(g_Siblings.P3GetCount(accounts), 2);
+    EXPECT_EQ(g_Siblings.P3GetProfileName(accounts, 0), "alice@example.org");
+    EXPECT_EQ(g_Siblings.P3GetMUAName(accounts, 1), "Terminal Mailer");
+    EXPECT_EQ(g_Siblings.P3GetProtected(accounts, 0), 1);
+    EXPECT_EQ(g_Siblings.P3GetProtected(accounts, 1), 0);
+    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 0, 0), 1);
+    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 1, 1), 1);
+    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 5, 1), 0);
+    EXPECT_EQ(g_Siblings.P3GetProfileName(accounts, 5), "");
+    EXPECT_EQ(g_Siblings.P3Save(accounts, 0), 1);
+    g_Siblings.P3Free(accounts);
+
+    void* reread = g_Siblings.P3Create();
+    ASSERT_EQ(g_Siblings.P3Load(reread), 1);
+    EXPECT_EQ(g_Siblings.P3GetProtected(reread, 0), 0);
+    EXPECT_EQ(g_Siblings.P3GetProtected(reread, 1), 1);
+    g_Siblings.P3Free(reread);
+}
+
+TEST_F(SiblingWrappersTest, MessengersAsInstalled) {
+    AddSibling("Q9IMcfg");
+    Install().Write("Q9IMcfg.ini", "[Installed]\n0=1\n1=0\n3=1\n");
+    EXPECT_EQ(g_Siblings.GetIMInstall(0), 1);
+    EXPECT_EQ(g_Siblings.GetIMInstall(1), 0);
+    EXPECT_EQ(g_Siblings.GetIMInstall(2), 0);
+    EXPECT_EQ(g_Siblings.GetIMInstall(3), 1);
+}
+
+TEST_F(SiblingWrappersTest, SpamFilterRulesThroughTheManager) {
+    AddSibling("Q9MsgFlt");
+    Install().Write("Q9MsgFlt.rules",
+                    "Q9MsgFlt Rules 1\n\n[Rule]\nName=Lottery\nField=Subject\n"
+                    "Words=lottery\nAction=Spam\nEnabled=Yes\n");
+    ASSERT_EQ(g_Siblings.MsgFltInitManager(), 1);
+    EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 1);
+    const std::string mail = "From: a@example.org\nSubject: Lottery win\n\nbody";
+    const auto address = reinterpret_cast<uintptr_t>(mail.c_str());
+    EXPECT_EQ(g_Siblings.MsgFltApplyRules(static_cast<uint32_t>(address),
+                                          static_cast<uint32_t>(uint64_t{address} >> 32)),
+              1);
+    Install().Write("Q9MsgFlt.rules", "Q9MsgFlt Rules 1\n");
+    EXPECT_EQ(g_Siblings.MsgFltReloadManager(), 1);
+    EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltWriteRules(), 1);
+    EXPECT_EQ(g_Siblings.MsgFltReleaseManager(), 1);
+    EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltReleaseManager(), 0);
+}
+
+TEST_F(SiblingWrappersTest, ZoneRecordRoundTrip) {
+    AddSibling("OrvDMZ");
+    void* zone = g_Siblings.DMZCreate();
+    ASSERT_NE(zone, nullptr);
+    const std::vector<uint8_t> record = ZoneRecord("/home/user/private", 0x102);
+    EXPECT_EQ(g_Siblings.DMZAdd(zone, kOwner, kOwner, ZoneBuffer(record).data()), 1);
+
+    const int32_t size = g_Siblings.DMZEnum(zone, kOwner, kOwner, nullptr, 0);
+    ASSERT_EQ(size, static_cast<int32_t>(record.size() + 4));
+    std::vector<uint8_t> read(static_cast<size_t>(size), 0xEE);
+    EXPECT_EQ(g_Siblings.DMZEnum(zone, kOwner, kOwner, read.data(), size), size);
+    EXPECT_EQ(WordAt(read, 0), record.size());
+    EXPECT_EQ(WordAt(read, 4), 1u);
+    EXPECT_EQ(WordAt(read, 8), 0x102u);
+    EXPECT_STREQ(reinterpret_cast<const char*>(read.data() + 16), kOwner);
+    EXPECT_STREQ(reinterpret_cast<const char*>(read.data() + 536), "/home/user/private");
+    EXPECT_EQ(WordAt(read, record.size()), 0u);
+
+    EXPECT_EQ(g_Siblings.DMZDelete(zone, kOwner, kOwner), 1);
+    EXPECT_EQ(g_Siblings.DMZEnum(zone, kOwner, kOwner, nullptr, 0), 0);
+    g_Siblings.DMZDestroy(zone);
+    EXPECT_NE(Install().Read("OrvDMZ.zone").find("OrvDMZ Zone 1"), std::string::npos);
+}
+
+TEST_F(SiblingWrappersTest, MissingLibrariesAnswerZeroNullOrEmpty) {
+    Install().Write("Q9IMcfg.ini", "[Installed]\n0=1\n");
+    EXPECT_EQ(g_Siblings.P3Create(), nullptr);
+    int dummy = 0;
+    g_Siblings.P3Free(&dummy);
+    EXPECT_EQ(g_Siblings.P3Load(&dummy), 0);
+    EXPECT_EQ(g_Siblings.P3Save(&dummy, 0), 0);
+    EXPECT_EQ(g_Siblings.P3GetCount(&dummy), 0);
+    EXPECT_EQ(g_Siblings.P3GetProfileName(&dummy, 0), "");
+    EXPECT_EQ(g_Siblings.P3GetProtected(&dummy, 0), 0);
+    EXPECT_EQ(g_Siblings.P3SetProtected2(&dummy, 0, 1), 0);
+    EXPECT_EQ(g_Siblings.P3GetMUAName(&dummy, 0), "");
+    EXPECT_EQ(g_Siblings.GetIMInstall(0), 0);
+    EXPECT_EQ(g_Siblings.MsgFltInitManager(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltReleaseManager(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltDoProperty(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltApplyRules(1, 0), 0);
+    EXPECT_EQ(g_Siblings.MsgFltReloadManager(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltWriteRules(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
+    EXPECT_EQ(g_Siblings.DMZCreate(), nullptr);
+    EXPECT_EQ(g_Siblings.DMZAdd(&dummy, kOwner, kOwner, &dummy), 0);
+    EXPECT_EQ(g_Siblings.DMZEnum(&dummy, kOwner, kOwner, nullptr, 0), 0);
+    EXPECT_EQ(g_Siblings.DMZDelete(&dummy, kOwner, kOwner), 0);
+    g_Siblings.DMZDestroy(&dummy);
+    EXPECT_EQ(dummy, 0);
+}
+
+TEST_F(SiblingWrappersTest, LibrariesWithoutEntryPointsAnswerZeroNullOrEmpty) {
+    for (const char* name : {"Q9P3ATHL", "Q9IMcfg", "Q9MsgFlt", "OrvDMZ"}) AddProbeAs(name);
+    int dummy = 0;
+    EXPECT_EQ(g_Siblings.P3Create(), nullptr);
+    g_Siblings.P3Free(&dummy);
+    EXPECT_EQ(g_Siblings.P3Load(&dummy), 0);
+    EXPECT_EQ(g_Siblings.P3GetCount(&dummy), 0);
+    EXPECT_EQ(g_Siblings.P3GetProfileName(&dummy, 0), "");
+    EXPECT_EQ(g_Siblings.P3GetMUAName(&dummy, 0), "");
+    EXPECT_EQ(g_Siblings.GetIMInstall(0), 0);
+    EXPECT_EQ(g_Siblings.MsgFltInitManager(), 0);
+    EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
+    EXPECT_EQ(g_Siblings.DMZCreate(), nullptr);
+    EXPECT_EQ(g_Siblings.DMZEnum(&dummy, kOwner, kOwner, nullptr, 0), 0);
+    g_Siblings.DMZDestroy(&dummy);
+    EXPECT_EQ(dummy, 0);
+}
+
+TEST_F(SiblingWrappersTest, RuleEditorResultIsPassedOn) {
+    AddProbeAs("Q9MsgFlt");  // its editor reports changed rules without showing anything
+    EXPECT_EQ(g_Siblings.MsgFltDoProperty(), 1);
+}

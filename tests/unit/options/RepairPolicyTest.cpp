@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include "options/RepairPolicy.h"
+#include "options/ScanBits.h"
+
+namespace {
+// Bits no combo and no backup box owns.
+constexpr uint32_t kOthers = kPolicyRecompress | 0x8000000u | 0x80000000u | 0x10u;
+}  // namespace
+
+TEST(BackupTest, OnWhenAnyOfTheThreeBitsIsSet) {
+    EXPECT_FALSE(BackupOf(kOthers));
+    EXPECT_TRUE(BackupOf(0x1u));
+    EXPECT_TRUE(BackupOf(0x100u));
+    EXPECT_TRUE(BackupOf(0x10000u));
+}
+
+TEST(BackupTest, CollectSetsAndClearsTheThreeTogether) {
+    EXPECT_EQ(CollectBackup(0x100u | kOthers, true), 0x10101u | kOthers);
+    EXPECT_EQ(CollectBackup(0x10001u | kOthers, false), kOthers);
+}
+
+TEST(RepairCombosTest, RepairableIsTestedRepairFirst) {
+    EXPECT_EQ(RepairCombosOf(0).repairable, RepairableAction::LeaveAsIs);
+    EXPECT_EQ(RepairCombosOf(kPolicyRepair).repairable, RepairableAction::Repair);
+    EXPECT_EQ(RepairCombosOf(kPolicyDelete).repairable, RepairableAction::Delete);
+    EXPECT_EQ(RepairCombosOf(kPolicyRepair | kPolicyDelete).repairable, RepairableAction::Repair);
+}
+
+TEST(RepairCombosTest, RepairAndDeleteSavesWithBit1Only) {
+    const uint32_t policy = kPolicyRepair | kPolicyDelete | kOthers;
+    EXPECT_EQ(CollectRepairCombos(policy, RepairCombosOf(policy)), kPolicyRepair | kOthers);
+}
+
+TEST(RepairCombosTest, RepairableChoicesAreExclusive) {
+    RepairCombos combos;
+    combos.repairable = RepairableAction::Delete;
+    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kOthers, combos), kPolicyDelete | kOthers);
+    combos.repairable = RepairableAction::LeaveAsIs;
+    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kPolicyDelete | kOthers, combos), kOthers);
+}
+
+TEST(RepairCombosTest, UnrepairableAndCompressedFollowTheirBits) {
+    const RepairCombos loaded = RepairCombosOf(kPolicyDeleteUnrepairable);
+    EXPECT_TRUE(loaded.deleteUnrepairable);
+    EXPECT_FALSE(loaded.deleteCompressed);
+    EXPECT_TRUE(RepairCombosOf(kPolicyDeleteCompressed).deleteCompressed);
+
+    RepairCombos combos;
+    combos.deleteCompressed = true;
+    EXPECT_EQ(CollectRepairCombos(kPolicyDeleteUnrepairable | kOthers, combos),
+              kPolicyDeleteCompressed | kOthers);
+}
+
+TEST(RepairCombosTest, ExecutingIsTestedInTheOrder24To26) {
+    EXPECT_EQ(RepairCombosOf(0).executing, ExecutingAction::LeaveAsIs);
+    EXPECT_EQ(RepairCombosOf(kPolicyExecRestart).executing, ExecutingAction::Restart);
+    EXPECT_EQ(RepairCombosOf(kPolicyExecForced | kPolicyExecRestart).executing,
+              ExecutingAction::ForcedTermination);
+    EXPECT_EQ(RepairCombosOf(kPolicyExecuting).executing, ExecutingAction::VerifyFirst);
+}
+
+TEST(RepairCombosTest, ExecutingChoicesAreExclusive) {
+    RepairCombos combos;
+    combos.executing = ExecutingAction::ForcedTermination;
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOthers, combos), kPolicyExecForced | kOthers);
+    combos.executing = ExecutingAction::VerifyFirst;
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecRestart, combos), kPolicyExecVerify);
+    combos.executing = ExecutingAction::Restart;
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecVerify, combos), kPolicyExecRestart);
+    combos.executing = ExecutingAction::LeaveAsIs;
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOthers, combos), kOthers);
+}
+
+TEST(RepairCombosTest, BackupBitsAreNotTheCombos) {
+    EXPECT_EQ(CollectRepairCombos(kPolicyBackup, RepairCombos{}), kPolicyBackup);
+}

@@ -1,0 +1,126 @@
+// q9admin run as a separate program on a temporary installation.
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStringList>
+
+#include "support/TemporaryInstallation.h"
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+class AdminToolTest : public testing::Test {
+protected:
+    Outcome Run(const QStringList& arguments, const QByteArray& input = {}) {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("Q9_INSTALL_DIR", QString::fromStdString(install.Directory()));
+        environment.insert("Q9_REGISTRY_DIR",
+                           QString::fromStdString(install.Directory() + "registry"));
+        process.setProcessEnvironment(environment);
+        process.start(Q9_ADMIN_PROGRAM, arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(30000));
+        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+    TemporaryInstallation install;
+};
+
+}  // namespace
+
+TEST_F(AdminToolTest, HelpListsEveryVerbAndSucceeds) {
+    const Outcome outcome = Run({"--help"});
+    EXPECT_EQ(outcome.status, 0);
+    for (const char* verb : {"store get-dword", "store set-enc", "store dump", "registry get",
+                             "registry dump", "journal", "zone"}) {
+        EXPECT_NE(outcome.out.find(verb), std::string::npos) << verb;
+    }
+}
+
+TEST_F(AdminToolTest, NoArgumentsOrUnknownVerbIsABadCommandLine) {
+    EXPECT_EQ(Run({}).status, 2);
+    const Outcome unknown = Run({"store", "frobnicate"});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_NE(unknown.err.find("unknown command \"store frobnicate\""), std::string::npos);
+}
+
+TEST_F(AdminToolTest, WrongArgumentCountOrBadNumbersAreSaid) {
+    const Outcome missing = Run({"store", "get-dword", "0"});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_NE(missing.err.find("takes SECTION KEY"), std::string::npos);
+    const Outcome bad = Run({"store", "get-dword", "zero", "59"});
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_NE(bad.err.find("numbers"), std::string::npos);
+    EXPECT_EQ(Run({"store", "set-dword", "0", "59", "-1"}).status, 2);
+    EXPECT_EQ(Run({"store", "set-dword", "0", "59", "4294967296"}).status, 2);
+}
+
+TEST_F(AdminToolTest, StoreWordsTextsAndEncipheredTextsRoundTrip) {
+    EXPECT_EQ(Run({"store", "set-dword", "0", "59", "0x4"}).status, 0);
+    EXPECT_EQ(Run({"store", "get-dword", "0", "59"}).out, "0x00000004 (4)\n");
+    EXPECT_EQ(Run({"store", "set-text", "0", "1", "/usr/share/sounds/a b.wav"}).status, 0);
+    EXPECT_EQ(Run({"store", "get-text", "0", "1"}).out, "/usr/share/sounds/a b.wav\n");
+    EXPECT_EQ(Run({"store", "set-enc", "3", "9", "-"}, "s3cret word\n").status, 0);
+    EXPECT_EQ(Run({"store", "get-enc", "3", "9"}).out, "s3cret word\n");
+    const Outcome dump = Run({"store", "dump"});
+    EXPECT_EQ(dump.status, 0);
+    EXPECT_NE(dump.out.find("dword:00000004"), std::string::npos);
+    EXPECT_EQ(dump.out.find("s3cret"), std::string::npos);
+}
+
+TEST_F(AdminToolTest, AbsentValuesAnswerOne) {
+    EXPECT_EQ(Run({"store", "get-text", "0", "1"}).status, 1);
+    EXPECT_EQ(Run({"store", "get-enc", "3", "9"}).status, 1);
+    EXPECT_EQ(Run({"store", "get-list", "1"}).status, 1);
+    EXPECT_EQ(Run({"registry", "get", "HKLM", "Software\\Nothing", "Debug"}).status, 1);
+    EXPECT_EQ(Run({"journal"}).status, 1);
+    EXPECT_EQ(Run({"zone"}).status, 1);
+}
+
+TEST_F(AdminToolTest, FactoryDefaultsAreRead) {
+    install.Write("Q9CfgDef.dat",
+                  "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000002\n"
+                  "CEK_AlertSound=\"ding.wav\"\n");
+    EXPECT_EQ(Run({"store", "default-dword", "0", "59"}).out, "0x00000002 (2)\n");
+    EXPECT_EQ(Run({"store", "default-text", "0", "1"}).out, "ding.wav\n");
+    EXPECT_EQ(Run({"store", "get-dword", "0", "59"}).out, "0x00000002 (2)\n");
+    EXPECT_NE(Run({"store", "dump"}).out.find("no live store yet"), std::string::npos);
+}
+
+TEST_F(AdminToolTest, ObjectListIsShownRecordByRecord) {
+    install.Write("Q9Cfg.dat",
+                  "Q9 Configuration Store 1\n[CES_Exclude]\nrecord=0,1,\"/home/a\"\n"
+                  "record=1,1,\"/home/b.iso\"\n");
+    EXPECT_EQ(Run({"store", "get-list", "1"}).out,
+              "record=0,1,\"/home/a\"\nrecord=1,1,\"/home/b.iso\"\n");
+}
+
+TEST_F(AdminToolTest, RegistryValuesOfEachTypeRoundTrip) {
+    const QString key = "Software\\Orvtek\\Q9CfgUL";
+    EXPECT_EQ(Run({"registry", "set-dword", "HKLM", key, "Debug", "1"}).status, 0);
+    EXPECT_EQ(Run({"registry", "get", "hklm", key, "debug"}).out, "0x00000001 (1)\n");
+    EXPECT_EQ(Run({"registry", "set-text", "HKCU", "NetWork\\/mnt/s", "RemotePath", "//srv/s"})
+                  .status,
+              0);
+    EXPECT_EQ(Run({"registry", "get", "HKCU", "NetWork\\/mnt/s", "RemotePath"}).out, "//srv/s\n");
+    const Outcome dump = Run({"registry", "dump", "HKLM"});
+    EXPECT_NE(dump.out.find("\"Debug\"=dword:00000001"), std::string::npos);
+    EXPECT_EQ(Run({"registry", "delete-value", "HKLM", key, "Debug"}).status, 0);
+    EXPECT_EQ(Run({"registry", "get", "HKLM", key, "Debug"}).status, 1);
+    EXPECT_EQ(Run({"registry", "get", "HKXX", key, "Debug"}).status, 2);
+}
+
+TEST_F(AdminToolTest, JournalAndZoneFilesArePrinted) {
+    install.Write("Q9SSCtrl.journal", "Q9SSCtrl_Register\t32\t-\t1\n");
+    EXPECT_EQ(Run({"journal"}).out, "Q9SSCtrl_Register\t32\t-\t1\n");
+    install.Write("OrvDMZ.zone", "OrvDMZ Zone 1\n[Q9Pro2004]\nrecord=1,0x00000102,\"/x\"\n");
+    EXPECT_NE(Run({"zone"}).out.find("[Q9Pro2004]"), std::string::npos);
+}
