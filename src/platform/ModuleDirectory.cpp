@@ -1,7 +1,11 @@
 #include "platform/ModuleDirectory.h"
 
 #include <dlfcn.h>
+#include <limits.h>
+#include <stdlib.h>
 #include <unistd.h>
+
+#include <cstdlib>
 
 namespace platform {
 
@@ -17,6 +21,15 @@ std::string ModuleDirectory() {
         return {};
     }
     std::string path = info.dli_fname;
+    // A binary started or loaded by a relative path is reported with it; the
+    // directory is made absolute so that it stays right whatever the process
+    // does with its working directory later.
+    if (path.find('/') != std::string::npos && path[0] != '/') {
+        if (char* absolute = realpath(path.c_str(), nullptr)) {
+            path = absolute;
+            std::free(absolute);
+        }
+    }
     // An executable found through PATH may be reported without a directory;
     // /proc/self/exe then gives its real location.
     if (path.find('/') == std::string::npos) {
