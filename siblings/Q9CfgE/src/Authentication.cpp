@@ -13,6 +13,7 @@
 #include "PasswordPrompt.h"
 #include "PromptMarker.h"
 #include "common/InstallDirectory.h"
+#include "platform/Display.h"
 #include "platform/ProblemReport.h"
 
 namespace cfge {
@@ -44,7 +45,13 @@ QApplication* WidgetApplication(std::unique_ptr<QApplication>* own) {
     static int argc = 1;
     static char name[] = "Q9CfgE";
     static char* argv[] = {name, nullptr};
-    if (!QCoreApplication::instance()) *own = std::make_unique<QApplication>(argc, argv);
+    if (!QCoreApplication::instance()) {
+        if (!platform::HasGraphicalDisplay()) {
+            platform::ReportProblem("no display to ask for the password on");
+            return nullptr;
+        }
+        *own = std::make_unique<QApplication>(argc, argv);
+    }
     auto* application = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!application) platform::ReportProblem("no widget application to ask for the password in");
     return application;

@@ -178,5 +178,20 @@ TEST_F(AuthenticationTest, PromptOfAProcessThatDiedLeavesNoAnswer) {
     EXPECT_TRUE(Exists(PathOf("Q9CfgE.prompt")));
 }
 
+// A process with no display cannot show the prompt: the password cannot be
+// given there, so the answer is "not authenticated", and the process lives on.
+TEST_F(AuthenticationTest, WithoutADisplayThePromptIsRefusedInsteadOfEndingTheProcess) {
+    SetPassword("s3cret");
+    std::vector<std::pair<std::string, std::string>> saved;
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (const char* value = std::getenv(variable)) saved.emplace_back(variable, value);
+        unsetenv(variable);
+    }
+    StoreHelper other({"prompt-bare", Directory()});
+    for (const auto& [variable, value] : saved) setenv(variable.c_str(), value.c_str(), 1);
+    ASSERT_TRUE(other.Started());
+    EXPECT_EQ(other.Wait(), 0);  // the helper exits 0 when the answer was 0
+}
+
 }  // namespace
 }  // namespace store_test
