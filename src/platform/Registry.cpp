@@ -24,15 +24,16 @@ namespace {
 using Key = RegistryHive::Key;
 using KeyPath = RegistryHive::KeyPath;
 
-// Never destroyed, so that code running at exit can still use the registry.
+// Destroyed with the library, so that a library that is loaded and unloaded
+// again leaves nothing behind.
 HiveFile& LocalMachineHive() {
-    static HiveFile* const hive = new HiveFile("HKLM.reg", "HKEY_LOCAL_MACHINE");
-    return *hive;
+    static HiveFile hive("HKLM.reg", "HKEY_LOCAL_MACHINE");
+    return hive;
 }
 
 HiveFile& CurrentUserHive() {
-    static HiveFile* const hive = new HiveFile("HKCU.reg", "HKEY_CURRENT_USER");
-    return *hive;
+    static HiveFile hive("HKCU.reg", "HKEY_CURRENT_USER");
+    return hive;
 }
 
 KeyPath PathOf(RegKey key) { return RegistryHive::SplitPath(key->path); }
