@@ -67,24 +67,8 @@ int32_t HiveFile::Modify(const Change& change) {
 }
 
 HiveFile::Signature HiveFile::SignatureOf(const std::string& path) {
-    struct stat info {};
-    if (stat(path.c_str(), &info) != 0) {
-        Signature signature;
-        signature.path = path;
-        signature.error = NormalizedError(errno);
-        return signature;
-    }
-    return SignatureFromStat(path, info);
-}
-
-HiveFile::Signature HiveFile::SignatureFromStat(const std::string& path, const struct stat& info) {
-    Signature signature;
-    signature.path = path;
-    signature.device = info.st_dev;
-    signature.inode = info.st_ino;
-    signature.size = info.st_size;
-    signature.modifiedSeconds = info.st_mtim.tv_sec;
-    signature.modifiedNanoseconds = info.st_mtim.tv_nsec;
+    Signature signature{path, FileSignature::Of(path)};
+    signature.file.error = NormalizedError(signature.file.error);
     return signature;
 }
 
@@ -118,14 +102,12 @@ HiveFile::Snapshot HiveFile::ReadFile(const std::string& path, Signature* signat
     const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
     struct stat info {};
     if (fd < 0 || fstat(fd, &info) != 0) {
-        *signature = Signature();
-        signature->path = path;
-        signature->error = NormalizedError(errno);
-        if (signature->error != ENOENT) snapshot.readError = signature->error;
+        *signature = Signature{path, FileSignature::Failed(NormalizedError(errno))};
+        if (signature->file.error != ENOENT) snapshot.readError = signature->file.error;
         if (fd >= 0) close(fd);
         return snapshot;
     }
-    *signature = SignatureFromStat(path, info);
+    *signature = Signature{path, FileSignature::FromStat(info)};
     std::string text;
     if (!ReadAllFrom(fd, &text)) snapshot.readError = errno;
     close(fd);

@@ -27,6 +27,7 @@
 #include <mutex>
 #include <string>
 
+#include "platform/FileSignature.h"
 #include "platform/RegistryHive.h"
 
 namespace platform {
@@ -63,21 +64,16 @@ public:
     int32_t Modify(const Change& change);
 
 private:
-    // What stat() says about the file; equal signatures mean equal content.
+    // The file's signature with its path: the registry directory may change
+    // between calls.
     struct Signature {
         std::string path;
-        int error = 0;  // 0, or the errno of stat()/open(); ENOENT: no file
-        uint64_t device = 0;
-        uint64_t inode = 0;
-        int64_t size = 0;
-        int64_t modifiedSeconds = 0;
-        int64_t modifiedNanoseconds = 0;
+        FileSignature file;
 
         bool operator==(const Signature&) const = default;
     };
 
     static Signature SignatureOf(const std::string& path);
-    static Signature SignatureFromStat(const std::string& path, const struct stat& info);
     Snapshot Load(const std::string& path);
     Snapshot ReadFile(const std::string& path, Signature* signature,
                       RegistryHive::ParseError* parseError);

@@ -11,18 +11,14 @@ class CRuleFile {
 public:
     static constexpr uint32_t kRecordSize = 52;
     static constexpr const char* kUserRules = "OBRuleU.dat";
-    static constexpr const char* kExemptRules = "OBRuleD.dat";
 
     // directory ends in '/'.
     explicit CRuleFile(std::string directory);
 
-    // Replaces the file with count records (0 leaves an empty file).
-    // 1 written, 0 the file could not be made.
+    // Replaces the user rule file with count records (0 leaves an empty
+    // file). 1 written, 0 the file could not be made.
     int32_t WriteUserRules(const void* records, int32_t count) const;
-    int32_t WriteExemptRules(const void* records, int32_t count) const;
 
 private:
-    int32_t WriteRules(const char* fileName, const void* records, int32_t count) const;
-
     std::string m_directory;
 };

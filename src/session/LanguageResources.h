@@ -27,8 +27,6 @@ public:
     // Removes and releases it.
     void Release();
 
-    bool translated() const { return m_translator != nullptr; }
-
 private:
     platform::SharedLibrary m_library;
     void* m_handle = nullptr;

@@ -18,28 +18,8 @@ StoreFile::StoreFile(std::string path) : m_path(std::move(path)) {
     m_snapshot.data = std::make_shared<const StoreData>();
 }
 
-StoreFile::Signature StoreFile::SignatureOf(const std::string& path) {
-    struct stat info {};
-    if (stat(path.c_str(), &info) != 0) {
-        Signature missing;
-        missing.error = errno;
-        return missing;
-    }
-    return SignatureFromStat(info);
-}
-
-StoreFile::Signature StoreFile::SignatureFromStat(const struct stat& info) {
-    Signature signature;
-    signature.device = static_cast<uint64_t>(info.st_dev);
-    signature.inode = static_cast<uint64_t>(info.st_ino);
-    signature.size = static_cast<int64_t>(info.st_size);
-    signature.modifiedSeconds = static_cast<int64_t>(info.st_mtim.tv_sec);
-    signature.modifiedNanoseconds = static_cast<int64_t>(info.st_mtim.tv_nsec);
-    return signature;
-}
-
 StoreFile::Snapshot StoreFile::Read() {
-    if (!m_cached || SignatureOf(m_path) != m_signature) Load();
+    if (!m_cached || Signature::Of(m_path) != m_signature) Load();
     return m_snapshot;
 }
 
@@ -62,7 +42,7 @@ void StoreFile::Load() {
         ReportOnce("cannot read the store file " + m_path + ": " + std::strerror(m_signature.error));
         return;
     }
-    m_signature = SignatureFromStat(info);
+    m_signature = Signature::FromStat(info);
     std::string bytes;
     const bool read = platform::ReadAllFrom(fd, &bytes);
     const int error = errno;
@@ -110,7 +90,7 @@ bool StoreFile::Replace(const Producer& produce) {
         return false;
     }
     // Still under the lock, so the file is the one just written.
-    m_signature = SignatureOf(m_path);
+    m_signature = Signature::Of(m_path);
     m_snapshot = Snapshot{std::move(next), false, false, 0};
     return true;
 }

@@ -24,6 +24,7 @@
 #include <string>
 
 #include "StoreData.h"
+#include "platform/FileSignature.h"
 
 namespace cfge {
 
@@ -61,19 +62,8 @@ public:
     bool Modify(const Change& change);
 
 private:
-    struct Signature {
-        int error = 0;  // errno of stat()/open(); ENOENT: no file
-        uint64_t device = 0;
-        uint64_t inode = 0;
-        int64_t size = 0;
-        int64_t modifiedSeconds = 0;
-        int64_t modifiedNanoseconds = 0;
+    using Signature = platform::FileSignature;
 
-        bool operator==(const Signature&) const = default;
-    };
-
-    static Signature SignatureOf(const std::string& path);
-    static Signature SignatureFromStat(const struct stat& info);
     void Load();
     void ReportOnce(const std::string& text);
 

@@ -1,4 +1,4 @@
-#include "StoreHelper.h"
+#include "support/ChildProcess.h"
 
 #include <signal.h>
 #include <spawn.h>
@@ -8,42 +8,39 @@
 
 extern char** environ;
 
-namespace store_test {
-namespace {
-constexpr const char* kHelper = Q9_HELPER_DIR "/q9_store_helper";
-}
-
-StoreHelper::StoreHelper(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), kHelper);
+ChildProcess::ChildProcess(const std::string& program, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), program);
     std::vector<char*> argv;
     for (std::string& argument : arguments) argv.push_back(argument.data());
     argv.push_back(nullptr);
-    if (posix_spawn(&m_pid, kHelper, nullptr, nullptr, argv.data(), environ) != 0) m_pid = -1;
+    if (posix_spawn(&m_pid, program.c_str(), nullptr, nullptr, argv.data(), environ) != 0) {
+        m_pid = -1;
+    }
 }
 
-StoreHelper::~StoreHelper() { Kill(); }
+ChildProcess::~ChildProcess() { Kill(); }
 
-void StoreHelper::Kill() {
+void ChildProcess::Kill() {
     if (!Started() || m_exited) return;
     kill(m_pid, SIGKILL);
     Wait();
 }
 
-bool StoreHelper::HasExited() {
+bool ChildProcess::HasExited() {
     if (!Started() || m_exited) return true;
     int status = 0;
     if (waitpid(m_pid, &status, WNOHANG) == m_pid) Reap(status);
     return m_exited;
 }
 
-int StoreHelper::Wait() {
+int ChildProcess::Wait() {
     if (!Started()) return -1;
     int status = 0;
     if (!m_exited && waitpid(m_pid, &status, 0) == m_pid) Reap(status);
     return m_exitCode;
 }
 
-void StoreHelper::Reap(int status) {
+void ChildProcess::Reap(int status) {
     m_exited = true;
     m_exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
@@ -56,5 +53,3 @@ bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds l
     }
     return true;
 }
-
-}  // namespace store_test

@@ -1,0 +1,48 @@
+// A session switches the user's language in through the language library and
+// out again when it ends.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <filesystem>
+
+#include "BoxAnswerer.h"
+#include "CallerInstallation.h"
+#include "support/LocaleEnvironment.h"
+
+namespace {
+
+using MsgBoxFn = int32_t(int32_t, uint32_t);
+
+// An installation with the language library and a German translation.
+void AddGermanTranslation(const TemporaryInstallation& install) {
+    std::filesystem::create_directories(install.PathOf("Lang"));
+    std::filesystem::copy_file(Q9_TEST_TRANSLATION, install.PathOf("Lang/Q9CU_1031.qm"));
+}
+
+}  // namespace
+
+TEST(SessionLanguage, GermanUserSeesGermanTextsDuringTheSessionOnly) {
+    LocaleEnvironment locale;
+    locale.UseLocale("de_DE.UTF-8");
+    CallerInstallation caller({"OrvI18N"});
+    AddGermanTranslation(caller.install);
+    ASSERT_NE(caller.Load(), nullptr) << dlerror();
+    BoxAnswerer answerer;
+    EXPECT_EQ(caller.Entry<MsgBoxFn>("Q9CfgUL_MsgBox")(0, 0), 1);
+    ASSERT_EQ(answerer.boxes.size(), 1u);
+    EXPECT_EQ(answerer.boxes[0].title, "Warnung");
+    // The translation is gone with the session.
+    EXPECT_EQ(QCoreApplication::translate("StringTable", "Warning"), "Warning");
+}
+
+TEST(SessionLanguage, WithoutTheLanguageLibraryTheLibrarysOwnTextsAreUsed) {
+    LocaleEnvironment locale;
+    locale.UseLocale("de_DE.UTF-8");
+    CallerInstallation caller;
+    AddGermanTranslation(caller.install);
+    ASSERT_NE(caller.Load(), nullptr) << dlerror();
+    BoxAnswerer answerer;
+    EXPECT_EQ(caller.Entry<MsgBoxFn>("Q9CfgUL_MsgBox")(0, 0), 1);
+    ASSERT_EQ(answerer.boxes.size(), 1u);
+    EXPECT_EQ(answerer.boxes[0].title, "Warning");
+}
