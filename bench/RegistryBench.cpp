@@ -63,5 +63,3 @@ void BM_FormatGroupedNumber(benchmark::State& state) {
 BENCHMARK(BM_FormatGroupedNumber);
 
 }  // namespace
-
-BENCHMARK_MAIN();

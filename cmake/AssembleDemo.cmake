@@ -15,6 +15,20 @@ foreach(binary IN LISTS BINARIES)
     endif()
 endforeach()
 
+# The translations in the binaries' folder (<library dir>/Lang), refreshed
+# like the binaries.
+set(binary_folders "")
+foreach(binary IN LISTS BINARIES)
+    get_filename_component(folder "${binary}" DIRECTORY)
+    list(APPEND binary_folders "${folder}")
+endforeach()
+list(REMOVE_DUPLICATES binary_folders)
+foreach(folder IN LISTS binary_folders)
+    if(IS_DIRECTORY "${folder}/Lang")
+        file(COPY "${folder}/Lang" DESTINATION "${DEMO_DIR}")
+    endif()
+endforeach()
+
 if(EXISTS "${DATA_DIR}")
     file(GLOB_RECURSE data_files RELATIVE "${DATA_DIR}" "${DATA_DIR}/*")
     foreach(relative IN LISTS data_files)

@@ -10,8 +10,13 @@ bash scripts/install-deps.sh
 bash scripts/build.sh build
 
 demo="$root/build/demo"
-unset Q9_INSTALL_DIR Q9_REGISTRY_DIR Q9_HOST_VERSION
-export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}"
+unset Q9_INSTALL_DIR Q9_REGISTRY_DIR Q9_HOST_VERSION Q9_CONFIG_WINDOW_WORD
+has_display=0
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ "${QT_QPA_PLATFORM:-}" != "offscreen" ]; then
+    has_display=1
+else
+    export QT_QPA_PLATFORM=offscreen
+fi
 
 echo
 echo "Demo installation: $demo"
@@ -27,5 +32,13 @@ echo
 echo "Calling the library as the product's programs do (q9cfg):"
 "$demo/q9cfg" report
 echo
-echo "The configuration dialog itself is not part of this build yet; the demo"
-echo "installation above holds the library, its sibling libraries and their data."
+if [ "$has_display" = 1 ]; then
+    echo "Opening the configuration dialog (q9cfg dialog); close it to end."
+    "$demo/q9cfg" dialog
+else
+    shots="$root/build/screenshots"
+    echo "No display: the configuration dialog of each edition, page by page, as PNG files:"
+    for edition in installed normal master light; do
+        "$demo/q9shots" --edition "$edition" --out "$shots"
+    done
+fi

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace strings {
 
@@ -15,14 +16,20 @@ constexpr uint32_t kInformation = 901;
 constexpr uint32_t kWarning = 902;
 constexpr uint32_t kError = 903;
 constexpr uint32_t kRangeMessage = 1000;
+constexpr uint32_t kCloseMonitorQuestion = 1019;
 constexpr uint32_t kNotAuthorized = 1021;
+constexpr uint32_t kLowBattery = 1022;
 constexpr uint32_t kNewVirusDetected = 1023;
 constexpr uint32_t kInfectedByViruses = 1024;
 constexpr uint32_t kSelfScanFailed = 1025;
 constexpr uint32_t kUnableToExecute = 1026;
+constexpr uint32_t kCloseMonitorRestartQuestion = 1027;
+constexpr uint32_t kSwitchToCustomized = 1033;
 constexpr uint32_t kApplicationName = 57344;
 constexpr uint32_t kWarningCaption = 57353;
 constexpr uint32_t kLengthMessage = 57354;
+constexpr uint32_t kOfficeGuardQuestion = 57396;
+constexpr uint32_t kExplorerScanQuestion = 57397;
 
 }  // namespace strings
 
@@ -31,3 +38,6 @@ std::string LoadString(uint32_t id);
 
 // Whether the table has the id.
 bool HasString(uint32_t id);
+
+// Every id of the table, ascending.
+std::vector<uint32_t> StringIds();

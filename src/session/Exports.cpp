@@ -13,6 +13,7 @@
 #include "resources/StringTable.h"
 #include "options/StoreKeys.h"
 #include "session/CfgApp.h"
+#include "session/ConfigWindow.h"
 #include "session/DiagLog.h"
 #include "session/EditionFlags.h"
 #include "session/MessageKinds.h"
@@ -70,6 +71,17 @@ void StartSessionState() {
     g_Siblings.MarkPending(0, 0xFFFFFFFF);
 }
 
+// A configuration window open in some process is brought to the front. A
+// word that no window answers for was left by a process that ended: it is
+// cleared, so that a crash does not lock the user out of the dialog.
+bool ConfigWindowIsOpen() {
+    const uint32_t window = OpenConfigWindow();
+    if (window == 0) return false;
+    if (BringConfigWindowForward(window)) return true;
+    ClearConfigWindow();
+    return false;
+}
+
 int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOut,
                       const char* path1, const char* path2) {
     g_bInWizard = 0;
@@ -78,10 +90,7 @@ int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pa
         Q9CfgE_SetDWEx(CES_General, CEK_ProtectLevel, g_nProtectLevel);
         return 1;
     }
-    if (const uint32_t window = OpenConfigWindow()) {
-        BringConfigWindowForward(window);
-        return 2;
-    }
+    if (ConfigWindowIsOpen()) return 2;
     int32_t lastPage = page;
     const int32_t result = RunConfigDialog(parent, flags, page, &lastPage);
     ClearConfigWindow();
@@ -100,10 +109,7 @@ int32_t RunWizardMode(uint64_t parent, uint32_t flags) {
 
 int32_t RunSinglePageMode(uint64_t parent, uint32_t flags, int32_t page) {
     g_bInWizard = 0;
-    if (const uint32_t window = OpenConfigWindow()) {
-        BringConfigWindowForward(window);
-        return 2;
-    }
+    if (ConfigWindowIsOpen()) return 2;
     const int32_t result = RunSinglePage(parent, flags, page);
     ClearConfigWindow();
     return result;

@@ -1,36 +1,26 @@
 #include "session/ModeRunners.h"
 
-#include "platform/SharedWord.h"
-#include "session/DiagLog.h"
+#include "framework/GuiApplication.h"
+#include "session/ConfigDlg.h"
+#include "session/PageShellDlg.h"
 
-namespace {
-
-// One word shared by every process that loads the library.
-platform::SharedWord& ConfigWindowWord() {
-    static platform::SharedWord word(platform::kConfigWindowWordName);
-    return word;
+// The caller's window is a window of another toolkit, often of another
+// process: the dialogs are top-level windows of their own.
+int32_t RunConfigDialog(uint64_t, uint32_t flags, int32_t page, int32_t* lastPage) {
+    if (!EnsureGuiApplication()) return CDialog::kNotMade;
+    CConfigDlg dialog(page, flags, nullptr);
+    const int32_t result = dialog.DoModal();
+    if (lastPage) *lastPage = dialog.CurrentPage();
+    return result;
 }
 
-}  // namespace
+int32_t RunWizard(uint64_t, uint32_t) { return CDialog::kNotMade; }
 
-uint32_t OpenConfigWindow() { return ConfigWindowWord().Load(); }
-
-void ClearConfigWindow() { ConfigWindowWord().Exchange(0); }
-
-void BringConfigWindowForward(uint32_t window) {
-    g_Log.Write("the configuration window %u of another call is open", window);
+int32_t RunSinglePage(uint64_t, uint32_t flags, int32_t page) {
+    if (!EnsureGuiApplication()) return CDialog::kNotMade;
+    CPageShellDlg dialog(page, flags, nullptr);
+    return dialog.DoModal();
 }
-
-// The dialogs are not part of this build yet: each answers as a dialog whose
-// window cannot be made.
-int32_t RunConfigDialog(uint64_t, uint32_t, int32_t page, int32_t* lastPage) {
-    if (lastPage) *lastPage = page;
-    return -1;
-}
-
-int32_t RunWizard(uint64_t, uint32_t) { return -1; }
-
-int32_t RunSinglePage(uint64_t, uint32_t, int32_t) { return -1; }
 
 void RunSilentPolicy(const char*, const char*, int32_t) {}
 

@@ -1,18 +1,9 @@
 #pragma once
 
-// What each mode of a session runs. The dialogs and the silent steps live in
-// their own parts of the library; an entry here that has nothing to run yet
-// answers as for a dialog that cannot be made.
+// What each mode of a session runs. A mode whose dialog cannot be made (no
+// display, no template) answers -1.
 
 #include <cstdint>
-
-// The window handle of the configuration dialog or single-page shell that is
-// open in any process of this machine, or 0.
-uint32_t OpenConfigWindow();
-// Clears it when the dialog of this process has closed.
-void ClearConfigWindow();
-// Brings the window another process registered to the front.
-void BringConfigWindowForward(uint32_t window);
 
 // Mode 0: the configuration dialog; its modal result (1 OK, 2 Cancel, -1 not
 // made). *lastPage gets the page selected last.

@@ -3,11 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
+#include <QTimer>
+#include <cstdlib>
 #include <string>
 
 #include "BoxAnswerer.h"
 #include "CallerInstallation.h"
 #include "Q9CfgE.h"
+#include "framework/WindowBeacon.h"
 #include "platform/SharedWord.h"
 #include "q9cfgul.h"
 
@@ -132,12 +136,36 @@ TEST_F(DoModalTest, ProductPasswordRefusedAnswersTwo) {
     EXPECT_EQ(doModal(0, 5 | DMF_NoAuthenticate, nullptr, nullptr, nullptr), -1);
 }
 
-TEST_F(DoModalTest, OpenConfigurationWindowElsewhereAnswersTwoAfterAuthentication) {
+TEST_F(DoModalTest, OpenConfigurationWindowElsewhereIsBroughtForwardAndAnswersTwo) {
     Install({"Q9SSCtrl"});
-    platform::SharedWord word(platform::kConfigWindowWordName);
-    const uint32_t previous = word.Exchange(0x4242);
+    QWidget openWindow;
+    WindowBeacon beacon(&openWindow);
+    int forwarded = 0;
+    QObject::connect(&beacon, &WindowBeacon::broughtForward, [&forwarded] { ++forwarded; });
+    platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
+    const uint32_t previous = word.Exchange(beacon.Token());
     EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
     EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(forwarded, 2);
     EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n");
+    EXPECT_EQ(word.Load(), beacon.Token());
     word.Exchange(previous);
+}
+
+TEST_F(DoModalTest, AWindowWordNobodyAnswersForIsClearedAndTheDialogOpens) {
+    Install({"Q9SSCtrl"});
+    platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
+    word.Exchange(0x4242);  // left by a process that ended
+    bool opened = false;
+    QTimer cancel;
+    QObject::connect(&cancel, &QTimer::timeout, [&opened, &word] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            opened = word.Load() != 0 && word.Load() != 0x4242;
+            dialog->reject();
+        }
+    });
+    cancel.start(10);
+    EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(word.Load(), 0u);
 }

@@ -1,54 +1,17 @@
 #pragma once
 
-// Fixture of the binding tests: an installation directory of its own per
-// test, which is also g_szModuleDir, so that each test chooses which sibling
-// libraries exist there (the built ones, a probe without their entry points,
-// or none). The bindings are released, the pending mask cleared and the
-// store put back on the test's live file before and after each test.
+// Fixture of the binding tests: a sibling installation of its own per test,
+// where a library may also be a probe without the siblings' entry points.
 
-#include <gtest/gtest.h>
-
-#include <cstdint>
 #include <string>
 #include <vector>
 
-#include "support/TemporaryInstallation.h"
+#include "support/SiblingTest.h"
 
-class BindingTest : public testing::Test {
+class BindingTest : public SiblingTest {
 protected:
-    BindingTest();
-    ~BindingTest() override;
-
-    // Links the built library lib<name>.so into the installation.
-    void AddSibling(const std::string& name) const;
     // Copies the probe library into the installation as lib<name>.so.
     void AddProbeAs(const std::string& name) const;
-    // Removes lib<name>.so from the installation.
-    void RemoveLibrary(const std::string& name) const;
-
-    // The lines of Q9SSCtrl's journal; none when there is no journal.
-    std::vector<std::string> Journal() const;
-    // A journal line as Q9SSCtrl writes it; item < 0 stands for none.
-    static std::string JournalLine(const std::string& entryPoint, int32_t item,
-                                   const std::string& arguments, int32_t result);
     // The file names of the probe copies unloaded so far, in order.
     std::vector<std::string> Unloads() const;
-
-    // Values of the store's live file.
-    static void SetWord(uint32_t section, uint32_t key, uint32_t value);
-    static uint32_t Word(uint32_t section, uint32_t key);
-    // All three switch words, and their masks, to value.
-    static void SetAllSwitchWords(uint32_t value);
-
-    const TemporaryInstallation& Install() const { return m_install; }
-
-private:
-    static void ResetStore();
-
-    TemporaryInstallation m_install;
-    std::string m_savedModuleDir;
-    int32_t m_savedLevelPending = 0;
 };
-
-// The lines of text, without their line ends.
-std::vector<std::string> LinesOf(const std::string& text);

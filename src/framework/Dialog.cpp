@@ -1,0 +1,73 @@
+#include "framework/Dialog.h"
+
+#include <QPushButton>
+
+#include "framework/DialogControls.h"
+#include "framework/MessageService.h"
+#include "resources/DialogTemplates.h"
+#include "resources/StringTable.h"
+
+namespace {
+
+constexpr int32_t kPowerLowBattery = 9;
+
+}  // namespace
+
+CDialog::CDialog(int templateId, QWidget* parent) : QDialog(parent), templateId_(templateId) {}
+
+bool CDialog::Create() {
+    if (!built_) {
+        if (!BuildDialogTemplate(templateId_, this)) return false;
+        built_ = true;
+        ctl::ConnectControls(this, [this](int id, ctl::Notification code) {
+            if (code == ctl::Notification::kClicked &&
+                qobject_cast<QPushButton*>(Control(id)) != nullptr) {
+                OnCommand(id);
+            }
+        });
+    }
+    OnInitDialog();
+    return true;
+}
+
+int CDialog::DoModal() {
+    if (!Create()) return kNotMade;
+    return exec();
+}
+
+void CDialog::EndDialog(int result) { done(result); }
+
+QWidget* CDialog::Control(int id) const { return ctl::Find(this, id); }
+
+int CDialog::DefaultButtonId() const {
+    for (QWidget* control : ctl::Children(this)) {
+        const auto* button = qobject_cast<const QPushButton*>(control);
+        if (button && button->isDefault()) return ctl::IdOf(button);
+    }
+    return 0;
+}
+
+void CDialog::PostCommand(int id) {
+    QMetaObject::invokeMethod(this, [this, id] { OnCommand(id); }, Qt::QueuedConnection);
+}
+
+void CDialog::OnCommand(int id) {
+    if (id == 1) OnOK();
+    if (id == 2) OnCancel();
+}
+
+int32_t CDialog::OnPowerBroadcast(int32_t event) {
+    if (event == kPowerLowBattery) {
+        ShowMessage(this, LoadString(strings::kLowBattery), LoadString(strings::kInformation),
+                    msg::kIconInformation);
+    }
+    return 1;
+}
+
+bool CDialog::OnInitDialog() { return true; }
+
+void CDialog::OnOK() { EndDialog(1); }
+
+void CDialog::OnCancel() { EndDialog(2); }
+
+void CDialog::reject() { OnCancel(); }

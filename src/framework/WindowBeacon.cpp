@@ -1,0 +1,169 @@
+#include "framework/WindowBeacon.h"
+
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QEventLoop>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QTimer>
+#include <QWidget>
+#include <bitset>
+#include <mutex>
+#include <optional>
+
+#include "platform/ProblemReport.h"
+
+namespace {
+
+const QByteArray kRequest = "Q9CfgUL bring-forward\n";
+const QByteArray kAcknowledgement = "Q9CfgUL brought-forward\n";
+
+constexpr int kAnswerWaitMs = 1000;
+
+// Linux process ids stay below 2^22 (the kernel's limit for pid_max), which
+// leaves the upper 10 bits of a token for the serial.
+constexpr uint32_t kProcessIdBits = 22;
+constexpr uint32_t kSerialCount = 1u << (32 - kProcessIdBits);
+
+std::mutex g_serialMutex;
+std::bitset<kSerialCount> g_serialsInUse;
+
+// The lowest serial no live beacon of this process has.
+std::optional<uint32_t> TakeSerial() {
+    std::lock_guard<std::mutex> lock(g_serialMutex);
+    for (uint32_t serial = 0; serial < kSerialCount; ++serial) {
+        if (!g_serialsInUse[serial]) {
+            g_serialsInUse[serial] = true;
+            return serial;
+        }
+    }
+    return std::nullopt;
+}
+
+void ReleaseSerial(uint32_t serial) {
+    std::lock_guard<std::mutex> lock(g_serialMutex);
+    g_serialsInUse[serial] = false;
+}
+
+uint32_t TokenOf(uint32_t serial) {
+    return (serial << kProcessIdBits) | static_cast<uint32_t>(getpid());
+}
+
+bool IsAcknowledgement(const QByteArray& answer) { return answer == kAcknowledgement; }
+
+// Waits in a local event loop, so that a beacon on this thread can answer.
+bool AskInEventLoop(const QString& path) {
+    QLocalSocket socket;
+    QEventLoop loop;
+    QTimer limit;
+    limit.setSingleShot(true);
+    QByteArray answer;
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    QObject::connect(&socket, &QLocalSocket::connected, &loop, [&socket] { socket.write(kRequest); });
+    QObject::connect(&socket, &QLocalSocket::readyRead, &loop, [&] {
+        answer += socket.readAll();
+        if (answer.contains('\n')) loop.quit();
+    });
+    QObject::connect(&socket, &QLocalSocket::disconnected, &loop, &QEventLoop::quit);
+    QObject::connect(&socket, &QLocalSocket::errorOccurred, &loop, &QEventLoop::quit);
+    socket.connectToServer(path);
+    // A missing or refused socket fails at once, before the loop could see it.
+    if (socket.state() == QLocalSocket::UnconnectedState) return false;
+    limit.start(kAnswerWaitMs);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return IsAcknowledgement(answer);
+}
+
+bool AskBlocking(const QString& path) {
+    QLocalSocket socket;
+    const QDeadlineTimer deadline(kAnswerWaitMs);
+    socket.connectToServer(path);
+    if (!socket.waitForConnected(static_cast<int>(deadline.remainingTime()))) return false;
+    socket.write(kRequest);
+    if (!socket.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) return false;
+    QByteArray answer;
+    while (!answer.contains('\n') &&
+           socket.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
+        answer += socket.readAll();
+    }
+    return IsAcknowledgement(answer);
+}
+
+}  // namespace
+
+WindowBeacon::WindowBeacon(QWidget* window) : m_window(window), m_server(new QLocalServer(this)) {
+    connect(m_server, &QLocalServer::newConnection, this, &WindowBeacon::AcceptConnections);
+    const std::optional<uint32_t> serial = TakeSerial();
+    if (!serial) {
+        platform::ReportProblem("cannot listen for window requests: too many windows in this process");
+        return;
+    }
+    const uint32_t token = TokenOf(*serial);
+    if (!Listen(SocketPath(token))) {
+        ReleaseSerial(*serial);
+        return;
+    }
+    m_serial = *serial;
+    m_token = token;
+}
+
+WindowBeacon::~WindowBeacon() {
+    m_server->close();
+    if (m_token != 0) ReleaseSerial(m_serial);
+}
+
+uint32_t WindowBeacon::Token() const { return m_token; }
+
+QString WindowBeacon::SocketPath(uint32_t token) {
+    return QDir::tempPath() + QStringLiteral("/Q9CfgUL-window-%1-%2").arg(getuid()).arg(token);
+}
+
+bool WindowBeacon::Listen(const QString& path) {
+    // A socket of this name left by an ended process that had the same id;
+    // listening is documented to fail while one exists.
+    QLocalServer::removeServer(path);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    if (m_server->listen(path)) return true;
+    platform::ReportProblem("cannot listen for window requests on " + path.toStdString() + ": " +
+                            m_server->errorString().toStdString());
+    return false;
+}
+
+void WindowBeacon::AcceptConnections() {
+    while (QLocalSocket* socket = m_server->nextPendingConnection()) {
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { Answer(socket); });
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        Answer(socket);
+    }
+}
+
+// Reads one line; the request brings the window forward and is acknowledged,
+// anything else only closes the connection.
+void WindowBeacon::Answer(QLocalSocket* socket) {
+    if (!socket->canReadLine()) {
+        if (socket->bytesAvailable() > kRequest.size()) socket->abort();
+        return;
+    }
+    if (socket->readLine() == kRequest && m_window) {
+        BringForward();
+        socket->write(kAcknowledgement);
+    }
+    socket->disconnectFromServer();
+}
+
+void WindowBeacon::BringForward() {
+    if (m_window->isMinimized()) m_window->showNormal();
+    m_window->raise();
+    m_window->activateWindow();
+    emit broughtForward();
+}
+
+bool BringWindowForward(uint32_t token) {
+    if (token == 0) return false;
+    const QString path = WindowBeacon::SocketPath(token);
+    if (QCoreApplication::instance()) return AskInEventLoop(path);
+    return AskBlocking(path);
+}

@@ -1,0 +1,30 @@
+#include "session/StoreCommit.h"
+
+#include <Q9CfgE.h>
+
+#include "options/StoreKeys.h"
+#include "options/SwitchWord.h"
+#include "session/ProcessState.h"
+#include "session/SiblingLibs.h"
+
+namespace {
+
+// The running services hear of every change under the system monitor's code,
+// whatever changed.
+constexpr int32_t kConfigChangedItem = SSCT_SYSTEM_MONITOR;
+
+}  // namespace
+
+void BeginStoreEdit() { Q9CfgE_SetStyleEx(Q9CFGE_STYLE_EDIT, nullptr, Q9CFGE_MODE_EDIT); }
+
+void CommitWorkingCopy() {
+    Q9CfgE_UnlockEx();
+    Q9CfgE_FlushEx(Q9CFGE_ALL_SECTIONS, 1);
+}
+
+void DropWorkingCopy() { Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, nullptr, Q9CFGE_MODE_PLAIN); }
+
+void AnnounceCommit() {
+    Q9CfgE_SetDWEx(CES_General, CEK_ProtectLevel, g_nProtectLevel);
+    g_Siblings.ServiceControl(SC_SetCfgChanged, kConfigChangedItem, kServiceOption);
+}

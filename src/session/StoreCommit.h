@@ -1,0 +1,19 @@
+#pragma once
+
+// The steps with which a shell that owns the session's store commits it on
+// OK, shared by the configuration dialog and the single-page shell.
+
+#include <cstdint>
+
+// The protection levels g_nProtectLevel takes.
+constexpr uint32_t kProtectLevelCustomized = 8;
+
+// Puts the store into edit mode: pages work on its working copy from now on.
+void BeginStoreEdit();
+// Ends edit mode and writes the working copy to the live store.
+void CommitWorkingCopy();
+// Ends edit mode and drops the working copy.
+void DropWorkingCopy();
+// Writes the session's protection level and tells the running services
+// that the configuration changed (the one signal they reread on).
+void AnnounceCommit();

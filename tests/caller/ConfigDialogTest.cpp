@@ -1,0 +1,120 @@
+// The configuration dialog through the loaded library, end to end: a person
+// turns a function on and presses OK or Cancel; the store and the
+// registration journal show what followed.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QPushButton>
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "CallerInstallation.h"
+#include "DialogDriver.h"
+#include "Q9CfgE.h"
+#include "q9cfgul.h"
+
+namespace {
+
+using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
+
+constexpr uint32_t kSwitchSection = 14;
+constexpr uint32_t kScanSwitchKey = 42;
+constexpr int kSystemMonitorBox = 1005;
+constexpr uint32_t kSystemMonitorBit = 0x1;
+
+class ConfigDialogTest : public testing::Test {
+protected:
+    void SetUp() override {
+        Q9CfgE_SetStyleEx(257, "", 0);
+        caller = std::make_unique<CallerInstallation>(std::initializer_list<const char*>{"Q9SSCtrl"});
+        caller->install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
+        ASSERT_NE(caller->Load(), nullptr) << dlerror();
+        doModal = caller->Entry<DoModalFn>("Q9CfgUL_DoModal");
+        ASSERT_NE(doModal, nullptr);
+        ASSERT_EQ(Q9CfgE_SetDWEx(kSwitchSection, kScanSwitchKey, 0), 1);
+    }
+    void TearDown() override { Q9CfgE_SetStyleEx(257, "", 0); }
+
+    std::vector<std::string> Journal() const {
+        std::vector<std::string> lines;
+        std::istringstream text(caller->install.Read("Q9SSCtrl.journal"));
+        for (std::string line; std::getline(text, line);) lines.push_back(line);
+        return lines;
+    }
+    // The journal lines of calls that change something.
+    std::vector<std::string> Changes() const {
+        std::vector<std::string> changes;
+        for (const std::string& line : Journal()) {
+            if (line.rfind("Q9SSCtrl_Register", 0) == 0 || line.rfind("Q9SSCtrl_Unregister", 0) == 0 ||
+                line.rfind("Q9SSCtrl_SetCfgChanged", 0) == 0) {
+                changes.push_back(line);
+            }
+        }
+        return changes;
+    }
+
+    // Opens mode 0 on page 0, turns the system monitor on and presses the
+    // button; returns DoModal's result.
+    int32_t TurnOnSystemMonitorAndPress(int button, int32_t* page) {
+        DialogDriver driver([button](QDialog* dialog) {
+            auto* box = DialogDriver::Find<QCheckBox>(dialog, kSystemMonitorBox);
+            ASSERT_NE(box, nullptr);
+            ASSERT_FALSE(box->isChecked());
+            box->click();
+            DialogDriver::Find<QPushButton>(dialog, button)->click();
+        });
+        const int32_t result = doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, page, nullptr, nullptr);
+        EXPECT_TRUE(driver.Done());
+        return result;
+    }
+
+    std::unique_ptr<CallerInstallation> caller;
+    DoModalFn* doModal = nullptr;
+};
+
+TEST_F(ConfigDialogTest, OkRegistersTheFunctionThenSignalsOnce) {
+    int32_t page = 0;
+    EXPECT_EQ(TurnOnSystemMonitorAndPress(1, &page), 1);
+    EXPECT_EQ(page, 0);
+    EXPECT_EQ(Q9CfgE_GetDWEx(kSwitchSection, kScanSwitchKey) & kSystemMonitorBit, kSystemMonitorBit);
+    // The screen saver scan is brought into line at every apply, touched or
+    // not; the signal comes once, last.
+    const std::vector<std::string> changes = Changes();
+    ASSERT_EQ(changes.size(), 3u);
+    EXPECT_EQ(changes[0].rfind("Q9SSCtrl_Register\t32\t", 0), 0u) << changes[0];
+    EXPECT_EQ(changes[1].rfind("Q9SSCtrl_Unregister\t16\t", 0), 0u) << changes[1];
+    EXPECT_EQ(changes[2], "Q9SSCtrl_SetCfgChanged\t32\t-\t1");
+}
+
+TEST_F(ConfigDialogTest, CancelWritesNothingAndCallsNothing) {
+    const std::string before = caller->install.Read("Q9Cfg.dat");
+    int32_t page = 0;
+    EXPECT_EQ(TurnOnSystemMonitorAndPress(2, &page), 2);
+    EXPECT_EQ(Q9CfgE_GetDWEx(kSwitchSection, kScanSwitchKey) & kSystemMonitorBit, 0u);
+    EXPECT_EQ(caller->install.Read("Q9Cfg.dat"), before);
+    EXPECT_TRUE(Changes().empty());
+}
+
+TEST_F(ConfigDialogTest, AStartPageOutsideTheTreeComesBackAsMinusOne) {
+    DialogDriver driver([](QDialog* dialog) { DialogDriver::Find<QPushButton>(dialog, 1)->click(); });
+    int32_t page = 6;
+    EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, &page, nullptr, nullptr), 1);
+    EXPECT_EQ(page, -1);
+    EXPECT_EQ(Changes(), std::vector<std::string>{"Q9SSCtrl_SetCfgChanged\t32\t-\t1"});
+}
+
+TEST_F(ConfigDialogTest, SinglePageModeShowsThePageAlone) {
+    DialogDriver driver([](QDialog* dialog) {
+        EXPECT_EQ(dialog->windowTitle(), "E-mail Scan/Monitoring");
+        EXPECT_NE(DialogDriver::Find<QCheckBox>(dialog, 1009), nullptr);
+        DialogDriver::Find<QPushButton>(dialog, 2)->click();
+    });
+    int32_t page = 8;
+    EXPECT_EQ(doModal(0, DMF_ModeSinglePage | DMF_NoAuthenticate, &page, nullptr, nullptr), 2);
+    EXPECT_TRUE(driver.Done());
+}
+
+}  // namespace

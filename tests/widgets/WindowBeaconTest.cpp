@@ -1,0 +1,272 @@
+#include "framework/WindowBeacon.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLocalSocket>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/ChildProcess.h"
+#include "support/ProblemCapture.h"
+
+namespace {
+
+const std::string kHelper = Q9_HELPER_DIR "/q9_window_helper";
+
+// Well under the second BringWindowForward waits for an answer.
+constexpr auto kQuickAnswer = std::chrono::milliseconds(500);
+
+bool WaitWithEvents(const std::function<bool()>& condition) {
+    return WaitFor([&condition] {
+        QCoreApplication::processEvents();
+        return condition();
+    });
+}
+
+std::chrono::milliseconds TimeOf(const std::function<void()>& action) {
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+}
+
+// q9_window_helper showing a window with a beacon in another process; it
+// writes its token and then "forward" lines to a file. The helper is killed at
+// the end, so its socket is removed here.
+class HelperWindow {
+public:
+    HelperWindow() : m_process(kHelper, {"window", m_outfile}) {}
+    ~HelperWindow() {
+        m_process.Kill();
+        if (m_token != 0) QFile::remove(WindowBeacon::SocketPath(m_token));
+    }
+
+    HelperWindow(const HelperWindow&) = delete;
+    HelperWindow& operator=(const HelperWindow&) = delete;
+
+    ChildProcess& Process() { return m_process; }
+
+    // The complete lines written so far.
+    std::vector<std::string> Lines() const {
+        std::vector<std::string> lines;
+        std::ifstream file(m_outfile);
+        std::string line;
+        while (std::getline(file, line)) {
+            if (file.eof()) break;  // a line still being written
+            lines.push_back(line);
+        }
+        return lines;
+    }
+
+    uint32_t WaitForToken() {
+        if (!WaitFor([this] { return !Lines().empty(); })) return 0;
+        m_token = static_cast<uint32_t>(std::stoul(Lines().front()));
+        return m_token;
+    }
+
+private:
+    QTemporaryDir m_dir;
+    std::string m_outfile = m_dir.filePath("lines").toStdString();
+    ChildProcess m_process;
+    uint32_t m_token = 0;
+};
+
+// Sets an environment variable for the life of the object.
+class ScopedEnvironment {
+public:
+    ScopedEnvironment(const char* name, const char* value) : m_name(name) {
+        if (const char* old = std::getenv(name)) m_old = old;
+        setenv(name, value, 1);
+    }
+    ~ScopedEnvironment() {
+        if (m_old) setenv(m_name.c_str(), m_old->c_str(), 1);
+        else unsetenv(m_name.c_str());
+    }
+
+    ScopedEnvironment(const ScopedEnvironment&) = delete;
+    ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+
+private:
+    std::string m_name;
+    std::optional<std::string> m_old;
+};
+
+}  // namespace
+
+TEST(WindowBeacon, BringsAWindowOfThisProcessForward) {
+    QWidget window;
+    window.show();
+    WindowBeacon beacon(&window);
+    QSignalSpy forward(&beacon, &WindowBeacon::broughtForward);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(WaitWithEvents([&other] { return other.isActiveWindow(); }));
+
+    ASSERT_NE(beacon.Token(), 0u);
+    EXPECT_TRUE(BringWindowForward(beacon.Token()));
+    EXPECT_EQ(forward.count(), 1);
+    EXPECT_TRUE(WaitWithEvents([&window] { return window.isActiveWindow(); }));
+}
+
+TEST(WindowBeacon, ShowsAMinimisedWindowNormally) {
+    QWidget window;
+    window.showMinimized();
+    WindowBeacon beacon(&window);
+    ASSERT_TRUE(window.isMinimized());
+
+    EXPECT_TRUE(BringWindowForward(beacon.Token()));
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST(WindowBeacon, BringsTheWindowOfAnotherProcessForward) {
+    HelperWindow helper;
+    ASSERT_TRUE(helper.Process().Started());
+    const uint32_t token = helper.WaitForToken();
+    ASSERT_NE(token, 0u);
+    EXPECT_EQ(helper.Lines().size(), 1u);
+
+    EXPECT_TRUE(BringWindowForward(token));
+    EXPECT_TRUE(WaitFor([&helper] { return helper.Lines().size() == 2; }));
+    EXPECT_EQ(helper.Lines().back(), "forward");
+}
+
+TEST(WindowBeacon, AnswersAProcessWithoutApplicationObject) {
+    QWidget window;
+    window.show();
+    WindowBeacon beacon(&window);
+    QSignalSpy forward(&beacon, &WindowBeacon::broughtForward);
+
+    ChildProcess asker(kHelper, {"bring", std::to_string(beacon.Token())});
+    ASSERT_TRUE(asker.Started());
+    ASSERT_TRUE(WaitWithEvents([&asker] { return asker.HasExited(); }));
+    EXPECT_EQ(asker.Wait(), 0);
+    EXPECT_EQ(forward.count(), 1);
+}
+
+TEST(WindowBeacon, TokenZeroIsNoWindow) { EXPECT_FALSE(BringWindowForward(0)); }
+
+TEST(WindowBeacon, SocketLeftByAKilledProcessAnswersFalseQuickly) {
+    HelperWindow helper;
+    const uint32_t token = helper.WaitForToken();
+    ASSERT_NE(token, 0u);
+    helper.Process().Kill();
+    ASSERT_TRUE(QFile::exists(WindowBeacon::SocketPath(token)));
+
+    bool answer = true;
+    EXPECT_LT(TimeOf([&] { answer = BringWindowForward(token); }), kQuickAnswer);
+    EXPECT_FALSE(answer);
+}
+
+TEST(WindowBeacon, DestroyedBeaconAnswersFalseQuickly) {
+    QWidget window;
+    uint32_t token = 0;
+    {
+        WindowBeacon beacon(&window);
+        token = beacon.Token();
+        ASSERT_NE(token, 0u);
+    }
+    EXPECT_FALSE(QFile::exists(WindowBeacon::SocketPath(token)));
+
+    bool answer = true;
+    EXPECT_LT(TimeOf([&] { answer = BringWindowForward(token); }), kQuickAnswer);
+    EXPECT_FALSE(answer);
+}
+
+TEST(WindowBeacon, TwoBeaconsHaveDifferentTokensAndBothAnswer) {
+    QWidget first;
+    QWidget second;
+    WindowBeacon firstBeacon(&first);
+    WindowBeacon secondBeacon(&second);
+    QSignalSpy firstForward(&firstBeacon, &WindowBeacon::broughtForward);
+    QSignalSpy secondForward(&secondBeacon, &WindowBeacon::broughtForward);
+
+    ASSERT_NE(firstBeacon.Token(), 0u);
+    ASSERT_NE(secondBeacon.Token(), 0u);
+    EXPECT_NE(firstBeacon.Token(), secondBeacon.Token());
+    EXPECT_TRUE(BringWindowForward(secondBeacon.Token()));
+    EXPECT_EQ(firstForward.count(), 0);
+    EXPECT_EQ(secondForward.count(), 1);
+}
+
+TEST(WindowBeacon, NewBeaconReplacesAStaleSocketOfItsToken) {
+    QWidget window;
+    uint32_t token = 0;
+    {
+        WindowBeacon beacon(&window);
+        token = beacon.Token();
+    }
+    QFile stale(WindowBeacon::SocketPath(token));
+    ASSERT_TRUE(stale.open(QIODevice::WriteOnly));
+    stale.close();
+
+    WindowBeacon beacon(&window);
+    ASSERT_EQ(beacon.Token(), token);
+    EXPECT_TRUE(BringWindowForward(token));
+}
+
+TEST(WindowBeacon, OnlyTheUserCanConnect) {
+    QWidget window;
+    WindowBeacon beacon(&window);
+    struct stat status {};
+    ASSERT_EQ(stat(WindowBeacon::SocketPath(beacon.Token()).toLocal8Bit().constData(), &status), 0);
+    EXPECT_TRUE(S_ISSOCK(status.st_mode));
+    EXPECT_EQ(status.st_mode & 077u, 0u);
+}
+
+TEST(WindowBeacon, UnknownRequestGetsNoActionAndNoAnswer) {
+    QWidget window;
+    window.show();
+    WindowBeacon beacon(&window);
+    QSignalSpy forward(&beacon, &WindowBeacon::broughtForward);
+    QLocalSocket socket;
+    QByteArray answer;
+    QObject::connect(&socket, &QLocalSocket::readyRead, [&] { answer += socket.readAll(); });
+    QSignalSpy disconnected(&socket, &QLocalSocket::disconnected);
+
+    socket.connectToServer(WindowBeacon::SocketPath(beacon.Token()));
+    ASSERT_TRUE(socket.waitForConnected(10000));
+    socket.write("show yourself\n");
+    ASSERT_TRUE(disconnected.wait(10000));
+    EXPECT_TRUE(answer.isEmpty());
+    EXPECT_EQ(forward.count(), 0);
+}
+
+TEST(WindowBeacon, BeaconOfADestroyedWindowDoesNotAcknowledge) {
+    auto* window = new QWidget;
+    WindowBeacon beacon(window);
+    QSignalSpy forward(&beacon, &WindowBeacon::broughtForward);
+    delete window;
+
+    EXPECT_FALSE(BringWindowForward(beacon.Token()));
+    EXPECT_EQ(forward.count(), 0);
+}
+
+TEST(WindowBeacon, BeaconThatCannotListenHasTokenZeroReportedOnce) {
+    // A socket path longer than a local socket address can hold.
+    QTemporaryDir root;
+    const QString directory = root.filePath(QString(120, QLatin1Char('d')));
+    ASSERT_TRUE(QDir().mkpath(directory));
+    ScopedEnvironment temporary("TMPDIR", directory.toLocal8Bit().constData());
+    ProblemCapture problems;
+    QWidget window;
+    WindowBeacon beacon(&window);
+
+    EXPECT_EQ(beacon.Token(), 0u);
+    EXPECT_EQ(beacon.Token(), 0u);
+    ASSERT_EQ(problems.Lines().size(), 1u);
+    EXPECT_NE(problems.Lines().front().find("cannot listen for window requests on " + directory.toStdString()),
+              std::string::npos);
+}

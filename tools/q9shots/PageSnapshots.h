@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+enum class Edition { kInstalled, kNormal, kMaster, kLight };
+
+struct SnapshotRequest {
+    Edition edition = Edition::kInstalled;
+    std::string outputDirectory = "screenshots";
+};
+
+// "installed", "normal", "master" or "light"; false for anything else.
+bool ParseEdition(const std::string& text, Edition* edition);
+
+// Opens the configuration dialog of the installation in the edition asked
+// for, selects each page of its tree in turn and saves the dialog as
+// <out>/<edition>-page<id>.png, printing each file name; the dialog ends as
+// Cancel does. Returns the process's exit code.
+int RenderConfigDialog(const SnapshotRequest& request, int argc, char** argv);

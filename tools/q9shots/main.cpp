@@ -1,0 +1,52 @@
+// q9shots: renders the configuration dialog of an installation to PNG files,
+// one per page of its tree, for machines without a display and for the
+// documentation. It runs the dialog of the library it is linked with, on the
+// installation it lies in (or Q9_INSTALL_DIR), and changes nothing: every
+// dialog ends as Cancel does.
+//
+//   q9shots [--edition installed|normal|master|light] [--out DIR]
+
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "PageSnapshots.h"
+
+namespace {
+
+void PrintUsage(FILE* to) {
+    std::fputs(
+        "usage: q9shots [--edition installed|normal|master|light] [--out DIR]\n"
+        "Renders the configuration dialog with each page of its tree to DIR/<edition>-page<id>.png\n"
+        "(DIR defaults to ./screenshots) and prints the file names. 'installed' (the default)\n"
+        "uses the edition of the installation's secure profile.\n",
+        to);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    SnapshotRequest request;
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        const bool hasValue = i + 1 < argc;
+        if (argument == "--help" || argument == "-h") {
+            PrintUsage(stdout);
+            return 0;
+        }
+        if (argument == "--edition" && hasValue) {
+            if (!ParseEdition(argv[++i], &request.edition)) {
+                std::fprintf(stderr, "q9shots: unknown edition '%s'\n", argv[i]);
+                PrintUsage(stderr);
+                return 2;
+            }
+        } else if (argument == "--out" && hasValue) {
+            request.outputDirectory = argv[++i];
+        } else {
+            std::fprintf(stderr, "q9shots: unexpected argument '%s'\n", argument.c_str());
+            PrintUsage(stderr);
+            return 2;
+        }
+    }
+    return RenderConfigDialog(request, argc, argv);
+}
