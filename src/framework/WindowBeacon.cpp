@@ -1,8 +1,12 @@
 #include "framework/WindowBeacon.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
@@ -161,9 +165,22 @@ void WindowBeacon::BringForward() {
     emit broughtForward();
 }
 
+namespace {
+
+// Only a socket of this user is asked: in a shared temporary directory
+// another user could otherwise answer for a window of a process that ended.
+bool IsOwnSocket(const QString& path) {
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISSOCK(info.st_mode) &&
+           info.st_uid == ::geteuid();
+}
+
+}  // namespace
+
 bool BringWindowForward(uint32_t token) {
     if (token == 0) return false;
     const QString path = WindowBeacon::SocketPath(token);
+    if (!IsOwnSocket(path)) return false;
     if (QCoreApplication::instance()) return AskInEventLoop(path);
     return AskBlocking(path);
 }

@@ -4,11 +4,15 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 #include <cstdlib>
 #include <string>
 
 #include "BoxAnswerer.h"
+#include "DialogDriver.h"
+#include "support/HelperWindow.h"
 #include "CallerInstallation.h"
 #include "Q9CfgE.h"
 #include "framework/WindowBeacon.h"
@@ -150,6 +154,45 @@ TEST_F(DoModalTest, OpenConfigurationWindowElsewhereIsBroughtForwardAndAnswersTw
     EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n");
     EXPECT_EQ(word.Load(), beacon.Token());
     word.Exchange(previous);
+}
+
+TEST_F(DoModalTest, ADialogOpenInAnotherProcessIsBroughtForwardAfterAuthentication) {
+    Install({"Q9SSCtrl"});
+    HelperWindow other(Q9_HELPER_DIR "/q9_window_helper");
+    const uint32_t token = other.WaitForToken();
+    ASSERT_NE(token, 0u);
+    platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
+    word.Exchange(token);
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_TRUE(WaitFor([&other] { return other.Lines().size() == 2; }));
+    EXPECT_EQ(other.Lines().back(), "forward");
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n");
+    EXPECT_TRUE(boxes.boxes.empty());
+    word.Exchange(0);
+}
+
+TEST_F(DoModalTest, WithoutAPageIdBothDialogModesOpenPageZero) {
+    Install({"Q9SSCtrl"});
+    QString header;
+    QString caption;
+    {
+        DialogDriver driver([&header](QDialog* dialog) {
+            const auto selected = DialogDriver::Find<QTreeWidget>(dialog, 1000)->selectedItems();
+            if (!selected.isEmpty()) header = selected.first()->text(0);
+            DialogDriver::Find<QPushButton>(dialog, 2)->click();
+        });
+        EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
+    }
+    {
+        DialogDriver driver([&caption](QDialog* dialog) {
+            caption = dialog->windowTitle();
+            DialogDriver::Find<QPushButton>(dialog, 2)->click();
+        });
+        EXPECT_EQ(doModal(0, DMF_ModeSinglePage | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
+    }
+    EXPECT_EQ(header, "System Scan/Monitoring");
+    EXPECT_EQ(caption, "System Scan/Monitoring");
 }
 
 TEST_F(DoModalTest, AWindowWordNobodyAnswersForIsClearedAndTheDialogOpens) {

@@ -2,10 +2,14 @@
 // out again when it ends.
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QCoreApplication>
+#include <QPushButton>
 #include <filesystem>
 
 #include "BoxAnswerer.h"
+#include "DialogDriver.h"
+#include "q9cfgul.h"
 #include "CallerInstallation.h"
 #include "support/LocaleEnvironment.h"
 
@@ -45,4 +49,31 @@ TEST(SessionLanguage, WithoutTheLanguageLibraryTheLibrarysOwnTextsAreUsed) {
     EXPECT_EQ(caller.Entry<MsgBoxFn>("Q9CfgUL_MsgBox")(0, 0), 1);
     ASSERT_EQ(answerer.boxes.size(), 1u);
     EXPECT_EQ(answerer.boxes[0].title, "Warning");
+}
+
+TEST(SessionLanguage, GermanUserSeesTheConfigurationDialogInGerman) {
+    LocaleEnvironment locale;
+    locale.UseLocale("de_DE.UTF-8");
+    CallerInstallation caller({"OrvI18N", "Q9SSCtrl"});
+    caller.install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
+    AddGermanTranslation(caller.install);
+    ASSERT_NE(caller.Load(), nullptr) << dlerror();
+    QString cancel;
+    QString monitor;
+    QString title;
+    DialogDriver driver([&](QDialog* dialog) {
+        title = dialog->windowTitle();
+        monitor = DialogDriver::Find<QCheckBox>(dialog, 1005)->text();
+        auto* button = DialogDriver::Find<QPushButton>(dialog, 2);
+        cancel = button->text();
+        button->click();
+    });
+    using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
+    int32_t page = 0;
+    EXPECT_EQ(caller.Entry<DoModalFn>("Q9CfgUL_DoModal")(0, DMF_NoAuthenticate, &page, nullptr,
+                                                         nullptr),
+              2);
+    EXPECT_EQ(title, "Konfiguration");
+    EXPECT_EQ(monitor, "Systemüberwachung");
+    EXPECT_EQ(cancel, "Abbrechen");
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -19,6 +20,7 @@
 #include <vector>
 
 #include "support/ChildProcess.h"
+#include "support/HelperWindow.h"
 #include "support/ProblemCapture.h"
 
 namespace {
@@ -40,47 +42,6 @@ std::chrono::milliseconds TimeOf(const std::function<void()>& action) {
     action();
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
 }
-
-// q9_window_helper showing a window with a beacon in another process; it
-// writes its token and then "forward" lines to a file. The helper is killed at
-// the end, so its socket is removed here.
-class HelperWindow {
-public:
-    HelperWindow() : m_process(kHelper, {"window", m_outfile}) {}
-    ~HelperWindow() {
-        m_process.Kill();
-        if (m_token != 0) QFile::remove(WindowBeacon::SocketPath(m_token));
-    }
-
-    HelperWindow(const HelperWindow&) = delete;
-    HelperWindow& operator=(const HelperWindow&) = delete;
-
-    ChildProcess& Process() { return m_process; }
-
-    // The complete lines written so far.
-    std::vector<std::string> Lines() const {
-        std::vector<std::string> lines;
-        std::ifstream file(m_outfile);
-        std::string line;
-        while (std::getline(file, line)) {
-            if (file.eof()) break;  // a line still being written
-            lines.push_back(line);
-        }
-        return lines;
-    }
-
-    uint32_t WaitForToken() {
-        if (!WaitFor([this] { return !Lines().empty(); })) return 0;
-        m_token = static_cast<uint32_t>(std::stoul(Lines().front()));
-        return m_token;
-    }
-
-private:
-    QTemporaryDir m_dir;
-    std::string m_outfile = m_dir.filePath("lines").toStdString();
-    ChildProcess m_process;
-    uint32_t m_token = 0;
-};
 
 // Sets an environment variable for the life of the object.
 class ScopedEnvironment {
@@ -132,7 +93,7 @@ TEST(WindowBeacon, ShowsAMinimisedWindowNormally) {
 }
 
 TEST(WindowBeacon, BringsTheWindowOfAnotherProcessForward) {
-    HelperWindow helper;
+    HelperWindow helper(kHelper);
     ASSERT_TRUE(helper.Process().Started());
     const uint32_t token = helper.WaitForToken();
     ASSERT_NE(token, 0u);
@@ -159,7 +120,7 @@ TEST(WindowBeacon, AnswersAProcessWithoutApplicationObject) {
 TEST(WindowBeacon, TokenZeroIsNoWindow) { EXPECT_FALSE(BringWindowForward(0)); }
 
 TEST(WindowBeacon, SocketLeftByAKilledProcessAnswersFalseQuickly) {
-    HelperWindow helper;
+    HelperWindow helper(kHelper);
     const uint32_t token = helper.WaitForToken();
     ASSERT_NE(token, 0u);
     helper.Process().Kill();
@@ -269,4 +230,15 @@ TEST(WindowBeacon, BeaconThatCannotListenHasTokenZeroReportedOnce) {
     ASSERT_EQ(problems.Lines().size(), 1u);
     EXPECT_NE(problems.Lines().front().find("cannot listen for window requests on " + directory.toStdString()),
               std::string::npos);
+}
+
+TEST(WindowBeacon, ASocketOfAnotherUserIsNotAsked) {
+    if (::geteuid() != 0) GTEST_SKIP() << "handing a socket to another user needs root";
+    QWidget window;
+    WindowBeacon beacon(&window);
+    QSignalSpy forward(&beacon, &WindowBeacon::broughtForward);
+    const QByteArray path = QFile::encodeName(WindowBeacon::SocketPath(beacon.Token()));
+    ASSERT_EQ(::chown(path.constData(), 65534, 65534), 0);
+    EXPECT_FALSE(BringWindowForward(beacon.Token()));
+    EXPECT_EQ(forward.count(), 0);
 }

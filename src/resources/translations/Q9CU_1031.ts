@@ -5,136 +5,136 @@
     <name>Dialog1001</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
 </context>
 <context>
     <name>Dialog1013</name>
     <message>
         <source>Select the functions to use</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu verwendende Funktionen auswählen</translation>
     </message>
     <message>
         <source>System Monitoring</source>
-        <translation type="unfinished">Systemüberwachung</translation>
+        <translation>Systemüberwachung</translation>
     </message>
     <message>
         <source>Checks every file when it is opened, run or saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft jede Datei, wenn sie geöffnet, ausgeführt oder gespeichert wird.</translation>
     </message>
     <message>
         <source>Internet Monitoring</source>
-        <translation type="unfinished">Internetüberwachung</translation>
+        <translation>Internetüberwachung</translation>
     </message>
     <message>
         <source>Scans files downloaded from the Internet before they are opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft aus dem Internet geladene Dateien, bevor sie geöffnet werden.</translation>
     </message>
     <message>
         <source>Instant Messenger Monitoring</source>
-        <translation type="unfinished">Instant-Messenger-Überwachung</translation>
+        <translation>Instant-Messenger-Überwachung</translation>
     </message>
     <message>
         <source>Scans files received through instant messenger programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft Dateien, die über Instant-Messenger-Programme empfangen werden.</translation>
     </message>
     <message>
         <source>Startup Program Monitoring</source>
-        <translation type="unfinished">Autostart-Überwachung</translation>
+        <translation>Autostart-Überwachung</translation>
     </message>
     <message>
         <source>Checks the programs that start automatically with the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft die Programme, die automatisch mit dem System starten.</translation>
     </message>
     <message>
         <source>Office Guard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Guards office documents against macro viruses when they are opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Office-Schutz</translation>
     </message>
     <message>
         <source>Screen Saver Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmschoner-Prüfung</translation>
     </message>
     <message>
         <source>Scans the computer while the screen saver is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft den Computer, während der Bildschirmschoner läuft.</translation>
     </message>
     <message>
         <source>Short cut menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontextmenüs</translation>
     </message>
     <message>
         <source>Adds a scan command to the shortcut menus of files and folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt den Kontextmenüs von Dateien und Ordnern einen Prüfbefehl hinzu.</translation>
     </message>
     <message>
         <source>Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolleisten</translation>
     </message>
     <message>
         <source>Adds a scan button to the toolbars of file browser windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt den Symbolleisten der Dateimanager-Fenster eine Prüfschaltfläche hinzu.</translation>
+    </message>
+    <message>
+        <source>Protects office documents against macro viruses.</source>
+        <translation>Schützt Office-Dokumente vor Makroviren.</translation>
     </message>
 </context>
 <context>
     <name>Dialog1014</name>
     <message>
         <source>Select the functions to use</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu verwendende Funktionen auswählen</translation>
     </message>
     <message>
         <source>POP3 Monitoring</source>
-        <translation type="unfinished">POP3-Überwachung</translation>
-    </message>
-    <message>
-        <source>Scans incoming e-mail and its attachments while they are downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>POP3-Überwachung</translation>
     </message>
     <message>
         <source>Outlook Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Outlook-Prüfung</translation>
     </message>
     <message>
         <source>Lets you scan the mail folders of your e-mail program on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft die Postfächer Ihres E-Mail-Programms auf Anforderung.</translation>
     </message>
     <message>
         <source>Outlook Monitoring</source>
-        <translation type="unfinished">Outlook-Überwachung</translation>
+        <translation>Outlook-Überwachung</translation>
     </message>
     <message>
         <source>Scans e-mail as your e-mail program receives and sends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft E-Mails, während Ihr E-Mail-Programm sie empfängt und sendet.</translation>
+    </message>
+    <message>
+        <source>Scans incoming e-mail and attachments as they are downloaded.</source>
+        <translation>Prüft eingehende E-Mails und Anhänge beim Herunterladen.</translation>
     </message>
 </context>
 <context>
     <name>Dialog102</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished">Konfiguration</translation>
+        <translation>Konfiguration</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
 </context>
 <context>
