@@ -7,13 +7,10 @@
 #include "resources/DialogTemplates.h"
 #include "resources/StringTable.h"
 
-namespace {
-
-constexpr int32_t kPowerLowBattery = 9;
-
-}  // namespace
-
-CDialog::CDialog(int templateId, QWidget* parent) : QDialog(parent), templateId_(templateId) {}
+CDialog::CDialog(int templateId, QWidget* parent)
+    : QDialog(parent),
+      templateId_(templateId),
+      power_([this](int event) { OnPowerBroadcast(event); }) {}
 
 bool CDialog::Create() {
     if (!built_) {
@@ -32,7 +29,10 @@ bool CDialog::Create() {
 
 int CDialog::DoModal() {
     if (!Create()) return kNotMade;
-    return exec();
+    power_.Start();
+    const int result = exec();
+    power_.Stop();
+    return result;
 }
 
 void CDialog::EndDialog(int result) { done(result); }
@@ -57,7 +57,7 @@ void CDialog::OnCommand(int id) {
 }
 
 int32_t CDialog::OnPowerBroadcast(int32_t event) {
-    if (event == kPowerLowBattery) {
+    if (event == PowerWatch::kLowBattery) {
         ShowMessage(this, LoadString(strings::kLowBattery), LoadString(strings::kInformation),
                     msg::kIconInformation);
     }

@@ -7,6 +7,8 @@
 #include <QDialog>
 #include <cstdint>
 
+#include "framework/PowerWatch.h"
+
 class CDialog : public QDialog {
 public:
     // Results of DoModal besides the ones a dialog ends with.
@@ -50,4 +52,5 @@ protected:
 private:
     int templateId_;
     bool built_ = false;
+    PowerWatch power_;
 };

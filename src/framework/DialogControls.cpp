@@ -158,7 +158,7 @@ void Show(QWidget* dialog, int id, bool show) {
 
 bool IsEnabled(const QWidget* dialog, int id) {
     const QWidget* control = Find(dialog, id);
-    return control && !control->testAttribute(Qt::WA_Disabled);
+    return control && !control->testAttribute(Qt::WA_ForceDisabled);
 }
 
 bool IsShown(const QWidget* dialog, int id) {
