@@ -1,5 +1,6 @@
 #include "framework/ImageList.h"
 
+#include <QHash>
 #include <QImage>
 #include <QRgb>
 
@@ -14,9 +15,10 @@ QImage LoadWithTransparency(const QString& resource) {
         return image;
     }
     image = image.convertToFormat(QImage::Format_ARGB32);
+    const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             if ((line[x] & 0xFFFFFFu) == kTransparentColour) {
                 line[x] = qRgba(0, 0, 0, 0);
             }
@@ -25,17 +27,22 @@ QImage LoadWithTransparency(const QString& resource) {
     return image;
 }
 
+// Decoded strips by resource. QImage needs no application object, so the
+// cache may outlive it.
+QImage CachedStrip(const QString& resource) {
+    static QHash<QString, QImage> strips;
+    const auto found = strips.constFind(resource);
+    if (found != strips.constEnd()) return *found;
+    const QImage strip = LoadWithTransparency(resource);
+    strips.insert(resource, strip);
+    return strip;
+}
+
 }  // namespace
 
 ImageList::ImageList(const QString& resource, int cellSize) : m_cellSize(cellSize) {
-    const QImage strip = LoadWithTransparency(resource);
-    if (strip.isNull() || cellSize <= 0 || strip.height() < cellSize) {
-        return;
-    }
-    const int count = strip.width() / cellSize;
-    for (int index = 0; index < count; ++index) {
-        m_pictures.append(QPixmap::fromImage(strip.copy(index * cellSize, 0, cellSize, cellSize)));
-    }
+    const QImage strip = CachedStrip(resource);
+    if (!strip.isNull() && cellSize > 0 && strip.height() >= cellSize) m_strip = strip;
 }
 
 ImageList ImageList::TreeImages() {
@@ -47,7 +54,7 @@ ImageList ImageList::PageIcons() {
 }
 
 int ImageList::Count() const {
-    return static_cast<int>(m_pictures.size());
+    return m_strip.isNull() ? 0 : m_strip.width() / m_cellSize;
 }
 
 int ImageList::CellSize() const {
@@ -58,10 +65,12 @@ QPixmap ImageList::Pixmap(int index) const {
     if (index < 0 || index >= Count()) {
         return QPixmap();
     }
-    return m_pictures.at(index);
+    return QPixmap::fromImage(m_strip.copy(index * m_cellSize, 0, m_cellSize, m_cellSize));
 }
 
 QIcon ImageList::Icon(int index) const {
+    const auto cached = m_icons.constFind(index);
+    if (cached != m_icons.constEnd()) return *cached;
     QIcon icon;
     const QPixmap picture = Pixmap(index);
     if (!picture.isNull()) {
@@ -69,5 +78,6 @@ QIcon ImageList::Icon(int index) const {
         icon.addPixmap(picture, QIcon::Normal);
         icon.addPixmap(picture, QIcon::Selected);
     }
+    m_icons.insert(index, icon);
     return icon;
 }

@@ -1,10 +1,13 @@
 #pragma once
 
 // A strip of square pictures cut from one bitmap resource, left to right.
-// Pixels of the colour 0xFF00FF are transparent. Copies share the pictures.
+// Pixels of the colour 0xFF00FF are transparent. A resource is decoded once
+// per process; lists and their copies share the strip, and a picture is cut
+// from it when asked for.
 
+#include <QHash>
 #include <QIcon>
-#include <QList>
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 
@@ -32,5 +35,6 @@ public:
 
 private:
     int m_cellSize;
-    QList<QPixmap> m_pictures;
+    QImage m_strip;
+    mutable QHash<int, QIcon> m_icons;  // made on first use
 };

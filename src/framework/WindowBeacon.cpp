@@ -1,6 +1,7 @@
 #include "framework/WindowBeacon.h"
 
 #include <sys/stat.h>
+#include <cerrno>
 #include <unistd.h>
 
 #include <unistd.h>
@@ -121,16 +122,42 @@ WindowBeacon::~WindowBeacon() {
 
 uint32_t WindowBeacon::Token() const { return m_token; }
 
-QString WindowBeacon::SocketPath(uint32_t token) {
-    return QDir::tempPath() + QStringLiteral("/Q9CfgUL-window-%1-%2").arg(getuid()).arg(token);
+QString WindowBeacon::SocketDirectory() {
+    return QDir::tempPath() + QStringLiteral("/Q9CfgUL-%1").arg(geteuid());
 }
 
+QString WindowBeacon::SocketPath(uint32_t token) {
+    return SocketDirectory() + QStringLiteral("/window-%1").arg(token);
+}
+
+namespace {
+
+// The user's own folder of beacon sockets, made on first use; only its owner
+// may enter it. A folder of that name that belongs to someone else, or that
+// others may enter, is not used.
+bool MakePrivateFolder(const QString& folder) {
+    const QByteArray path = QFile::encodeName(folder);
+    if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST) return false;
+    struct stat info {};
+    return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == ::geteuid() && (info.st_mode & 077) == 0;
+}
+
+}  // namespace
+
 bool WindowBeacon::Listen(const QString& path) {
+    if (!MakePrivateFolder(SocketDirectory())) {
+        platform::ReportProblem("cannot listen for window requests: the folder " +
+                                SocketDirectory().toStdString() + " is not the user's own");
+        return false;
+    }
     // A socket of this name left by an ended process that had the same id;
     // listening is documented to fail while one exists.
     QLocalServer::removeServer(path);
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    if (m_server->listen(path)) return true;
+    if (m_server->listen(path)) {
+        ::chmod(QFile::encodeName(path).constData(), 0600);
+        return true;
+    }
     platform::ReportProblem("cannot listen for window requests on " + path.toStdString() + ": " +
                             m_server->errorString().toStdString());
     return false;

@@ -12,8 +12,9 @@
 //
 // The token is the process id with a serial of the beacons alive in this
 // process above it: never 0, and unique among the live processes of the user.
-// The socket lies in the temporary directory (TMPDIR, else /tmp), is named
-// after the user id and the token, and only the user can connect to it.
+// The socket lies in a folder of the user's own in the temporary directory
+// (TMPDIR, else /tmp), which only the user may enter, and is named after the
+// token.
 
 #include <QObject>
 #include <QPointer>
@@ -37,8 +38,10 @@ public:
     // 0 when the beacon could not listen (reported once when made).
     uint32_t Token() const;
 
-    // The socket of the beacon with token.
+    // The socket of the beacon with token, in the user's own folder
+    // <temporary directory>/Q9CfgUL-<user id>.
     static QString SocketPath(uint32_t token);
+    static QString SocketDirectory();
 
 signals:
     // The window was brought forward at another caller's request.

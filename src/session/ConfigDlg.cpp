@@ -50,23 +50,35 @@ bool CConfigDlg::OnInitDialog() {
     return true;
 }
 
+// The rows are made first and handed to the tree at once, which lays the
+// tree out once instead of at every row.
 void CConfigDlg::BuildTree() {
+    QList<QTreeWidgetItem*> topLevel;
+    QList<QTreeWidgetItem*> closed;  // groups whose close row was met
     QTreeWidgetItem* parent = nullptr;
     QTreeWidgetItem* toSelect = nullptr;
     for (const TreeRow* row = TreeForFlags(m_dlgFlags); row->kind != TreeRowKind::kEnd; ++row) {
         if (row->kind == TreeRowKind::kClose) {
-            if (parent) parent->setExpanded(true);
+            if (parent) closed.append(parent);
             parent = parent ? parent->parent() : nullptr;
             continue;
         }
         if (IsPageLeftOut(row->page, m_dlgFlags)) continue;
-        auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(m_tree);
+        auto* item = new QTreeWidgetItem();
         item->setText(0, QString::fromStdString(CPageTable::TitleOf(row->page)));
         item->setIcon(0, m_treeImages.Icon(row->image));
         item->setData(0, Qt::UserRole, row->page);
+        if (parent) {
+            parent->addChild(item);
+        } else {
+            topLevel.append(item);
+        }
         if (row->page == m_startPage && !toSelect) toSelect = item;
         if (row->kind == TreeRowKind::kGroup) parent = item;
     }
+    m_tree->addTopLevelItems(topLevel);
+    // Expanding needs the rows in the tree.
+    for (QTreeWidgetItem* group : closed) group->setExpanded(true);
     if (toSelect) m_tree->setCurrentItem(toSelect);
 }
 

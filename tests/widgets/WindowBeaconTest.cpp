@@ -242,3 +242,27 @@ TEST(WindowBeacon, ASocketOfAnotherUserIsNotAsked) {
     EXPECT_FALSE(BringWindowForward(beacon.Token()));
     EXPECT_EQ(forward.count(), 0);
 }
+
+TEST(WindowBeacon, AFolderOfAnotherUserIsNotUsed) {
+    if (::geteuid() != 0) GTEST_SKIP() << "handing a folder to another user needs root";
+    QTemporaryDir temporary;
+    ScopedEnvironment variable("TMPDIR", temporary.path().toLocal8Bit().constData());
+    const QByteArray folder = QFile::encodeName(WindowBeacon::SocketDirectory());
+    ASSERT_EQ(::mkdir(folder.constData(), 0700), 0);
+    ASSERT_EQ(::chown(folder.constData(), 65534, 65534), 0);
+    ProblemCapture problems;
+    QWidget window;
+    WindowBeacon beacon(&window);
+    EXPECT_EQ(beacon.Token(), 0u);
+    ASSERT_EQ(problems.Lines().size(), 1u);
+    EXPECT_NE(problems.Lines().front().find("is not the user's own"), std::string::npos);
+}
+
+TEST(WindowBeacon, TheSocketFolderIsTheUsersAlone) {
+    QWidget window;
+    WindowBeacon beacon(&window);
+    struct stat status {};
+    ASSERT_EQ(::stat(QFile::encodeName(WindowBeacon::SocketDirectory()).constData(), &status), 0);
+    EXPECT_EQ(status.st_uid, ::geteuid());
+    EXPECT_EQ(status.st_mode & 077u, 0u);
+}
