@@ -195,6 +195,22 @@ TEST_F(DoModalTest, WithoutAPageIdBothDialogModesOpenPageZero) {
     EXPECT_EQ(caption, "System Scan/Monitoring");
 }
 
+TEST_F(DoModalTest, TheWizardModeHasNoSingleInstanceCheck) {
+    Install({"Q9SSCtrl"});
+    QWidget openWindow;
+    WindowBeacon beacon(&openWindow);
+    int forwarded = 0;
+    QObject::connect(&beacon, &WindowBeacon::broughtForward, [&forwarded] { ++forwarded; });
+    platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
+    word.Exchange(beacon.Token());
+    // The wizard itself is not part of this build: it answers as a dialog
+    // that cannot be made, but it is not turned away by the open window.
+    EXPECT_EQ(doModal(0, DMF_ModeWizard | DMF_NoAuthenticate, nullptr, nullptr, nullptr), -1);
+    EXPECT_EQ(forwarded, 0);
+    EXPECT_EQ(word.Load(), beacon.Token());
+    word.Exchange(0);
+}
+
 TEST_F(DoModalTest, AWindowWordNobodyAnswersForIsClearedAndTheDialogOpens) {
     Install({"Q9SSCtrl"});
     platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));

@@ -476,11 +476,12 @@ TEST_F(FeatureSwitchPageTest, StartupItemsChosenStay) {
     EXPECT_EQ(Word(CES_Startup, CEK_ScanExtra), 0x1000U);
 }
 
-TEST_F(FeatureSwitchPageTest, CoveredPageSavesNothing) {
+TEST_F(FeatureSwitchPageTest, CoveredPagePassesValidationAndSavesNothing) {
     SetWord(CES_Switch, CEK_Switch_Scan, 0x5A);
     SetWord(CES_Switch, CEK_Switch_ScanMask, 0x77);
     CFeatureSwitchPage* page = Make();
     page->CoverWithNotice("notice");
+    EXPECT_EQ(page->Validate(), 0);
     page->Save();
     EXPECT_EQ(Word(CES_Switch, CEK_Switch_Scan), 0x5AU);
     EXPECT_EQ(Word(CES_Switch, CEK_Switch_ScanMask), 0x77U);

@@ -260,11 +260,12 @@ TEST_F(MailSwitchPageTest, SaveWritesTheMaskOfTheEdition) {
     EXPECT_EQ(Word(CES_Switch, CEK_Switch_ScanMask), 0x77U);
 }
 
-TEST_F(MailSwitchPageTest, CoveredPageSavesNothing) {
+TEST_F(MailSwitchPageTest, CoveredPagePassesValidationAndSavesNothing) {
     SetWord(CES_Switch, CEK_Switch_ScanMail, 0x5000);
     SetWord(CES_Switch, CEK_Switch_ScanMailMask, 0x77);
     CMailSwitchPage* page = Make();
     page->CoverWithNotice("notice");
+    EXPECT_EQ(page->Validate(), 0);
     page->Save();
     EXPECT_EQ(Word(CES_Switch, CEK_Switch_ScanMail), 0x5000U);
     EXPECT_EQ(Word(CES_Switch, CEK_Switch_ScanMailMask), 0x77U);

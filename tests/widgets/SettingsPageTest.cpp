@@ -25,7 +25,6 @@ class RowPage : public CSettingsPage {
 public:
     RowPage() : CSettingsPage(kRowTemplate) {}
     std::vector<int> commands;
-    void MarkCovered() { m_covered = 1; }
 
 protected:
     void OnControlCommand(int id, ctl::Notification) override { commands.push_back(id); }
