@@ -17,8 +17,10 @@ The output folder defaults to demo/data/Resource beside this script.
 
 import math
 import os
-import struct
 import sys
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools", "python"))
+from bitmap_file import bitmap_bytes  # noqa: E402
 
 WIDTH = 164
 HEIGHT = 314
@@ -163,25 +165,6 @@ def render(sample):
             row.append(tuple(int(round(v / count)) for v in total))
         rows.append(row)
     return rows
-
-
-def bitmap_bytes(rows):
-    """A 24-bit bottom-up device-independent bitmap file of the rows."""
-    height = len(rows)
-    width = len(rows[0])
-    stride = (width * 3 + 3) & ~3
-    pixels = bytearray()
-    for row in reversed(rows):
-        line = bytearray()
-        for r, g, b in row:
-            line += bytes((b, g, r))
-        line += bytes(stride - len(line))
-        pixels += line
-    offset = 14 + 40
-    file_header = struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset)
-    info_header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0,
-                              len(pixels), 2835, 2835, 0, 0)
-    return file_header + info_header + bytes(pixels)
 
 
 def main():

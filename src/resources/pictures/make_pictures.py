@@ -64,8 +64,10 @@ The output folder defaults to the folder of this script.
 
 import math
 import os
-import struct
 import sys
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "..", "tools", "python"))
+from bitmap_file import bitmap_bytes  # noqa: E402
 
 SUBSAMPLES = 4
 TRANSPARENT = (255, 0, 255)
@@ -798,25 +800,6 @@ def strip(pictures):
     cells = [make().rows() for make in pictures]
     height = len(cells[0])
     return [[pixel for cell in cells for pixel in cell[y]] for y in range(height)]
-
-
-def bitmap_bytes(rows):
-    """A 24-bit bottom-up device-independent bitmap file of the rows."""
-    height = len(rows)
-    width = len(rows[0])
-    stride = (width * 3 + 3) & ~3
-    pixels = bytearray()
-    for row in reversed(rows):
-        line_bytes = bytearray()
-        for r, g, b in row:
-            line_bytes += bytes((b, g, r))
-        line_bytes += bytes(stride - len(line_bytes))
-        pixels += line_bytes
-    offset = 14 + 40
-    file_header = struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset)
-    info_header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0,
-                              len(pixels), 2835, 2835, 0, 0)
-    return file_header + info_header + bytes(pixels)
 
 
 def main():
