@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QString>
+#include <QRegularExpression>
 #include <QTranslator>
 #include <algorithm>
 #include <cstddef>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,13 +18,11 @@ namespace {
 // percent sign), the placeholders of the mail templates (%V, %C, ...), the
 // fields of the date formats (%Y, %a) and "%%".
 std::vector<std::string> Inserts(const std::string& text) {
-    static const std::regex kInsert(
+    static const QRegularExpression kInsert(
         R"(%(%|[1-9][0-9]*|[-+ #0]*[0-9]*(\.[0-9]+)?(hh|h|ll|l|L|z|j|t)?[A-Za-z]))");
     std::vector<std::string> inserts;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), kInsert);
-         it != std::sregex_iterator(); ++it) {
-        inserts.push_back(it->str());
-    }
+    QRegularExpressionMatchIterator it = kInsert.globalMatch(QString::fromStdString(text));
+    while (it.hasNext()) inserts.push_back(it.next().captured(0).toStdString());
     return inserts;
 }
 
