@@ -26,7 +26,6 @@ public:
     void EndDialog(int result);
 
     QWidget* Control(int id) const;
-    int TemplateId() const { return templateId_; }
 
     // The id of the default push button, 0 when there is none.
     int DefaultButtonId() const;

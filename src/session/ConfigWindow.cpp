@@ -18,12 +18,12 @@ std::string ConfigWindowWordName() {
     return valid ? name : platform::kConfigWindowWordName;
 }
 
-}  // namespace
-
 platform::SharedWord& ConfigWindowWord() {
     static platform::SharedWord word(ConfigWindowWordName());
     return word;
 }
+
+}  // namespace
 
 uint32_t OpenConfigWindow() { return ConfigWindowWord().Load(); }
 

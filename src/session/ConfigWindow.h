@@ -10,13 +10,7 @@
 class QWidget;
 class WindowBeacon;
 
-namespace platform {
-class SharedWord;
-}
-
-// The shared word itself: "/Q9CfgUL_", or the name Q9_CONFIG_WINDOW_WORD
-// gives.
-platform::SharedWord& ConfigWindowWord();
+// The shared word is "/Q9CfgUL_", or the name Q9_CONFIG_WINDOW_WORD gives.
 
 // The token of the window open in some process, or 0.
 uint32_t OpenConfigWindow();

@@ -34,7 +34,6 @@ public:
     // Builds the page's window from its template as a child of parent and
     // runs its start-up; false when the template does not exist.
     bool Create(QWidget* parent);
-    int TemplateId() const { return templateId_; }
 
     // Operations a page overrides; the defaults are the ones named.
     virtual void Save() {}

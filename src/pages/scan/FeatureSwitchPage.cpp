@@ -29,15 +29,6 @@ constexpr int kBarBox = 1036;
 // The bit of the default word that checks Office Guard.
 constexpr uint32_t kOfficeDefaultBit = 0x4;
 
-// The questions of the boxes whose functions patch system files.
-constexpr uint32_t kOfficeGuardQuestion = 57396;
-constexpr uint32_t kExplorerScanQuestion = 57397;
-
-// Turning System Monitoring off: with its automatic restart registered, and
-// without it.
-constexpr uint32_t kMonitorOffRestartText = 1027;
-constexpr uint32_t kMonitorOffText = 1019;
-
 using Registrable = std::pair<int, int32_t>;
 
 // The boxes disabled when their functions cannot run, in the order asked, in
@@ -56,13 +47,13 @@ CFeatureSwitchPage::CFeatureSwitchPage(int templateId) : CSwitchPage(templateId,
     // In the order Apply registers; the Screen Saver Scan has no clicked flag
     // and is registered or unregistered at every Apply.
     SetRows({
-        {kShellBox, SSCT_Q9SHELLEX, &m_bShellClicked, kExplorerScanQuestion},
-        {kBarBox, SSCT_Q9BAR, &m_bBarClicked, kExplorerScanQuestion},
+        {kShellBox, SSCT_Q9SHELLEX, &m_bShellClicked, strings::kExplorerScanQuestion},
+        {kBarBox, SSCT_Q9BAR, &m_bBarClicked, strings::kExplorerScanQuestion},
         {kMonitorBox, SSCT_SYSTEM_MONITOR, &m_bMonitorClicked, 0},
         {kInternetBox, SSCT_HTTP_PROXY, &m_bInternetClicked, 0},
         {kMessengerBox, SSCT_MESSENGER, &m_bMessengerClicked, 0},
         {kStartupBox, SSCT_START_PROCESS, &m_bStartupClicked, 0},
-        {kOfficeBox, SSCT_OFFICE_GUARD, &m_bOfficeClicked, kOfficeGuardQuestion},
+        {kOfficeBox, SSCT_OFFICE_GUARD, &m_bOfficeClicked, strings::kOfficeGuardQuestion},
         {kScreenSaverBox, SSCT_SCRSAVER_SCAN, nullptr, 0},
     });
 }
@@ -110,9 +101,9 @@ void CFeatureSwitchPage::ConfirmMonitorOff() {
     if (g_Siblings.ServiceControl(SC_IsRegistered, SSCT_MONSYS_AUTO, kServiceOption) != 0) {
         const auto minutes =
             static_cast<int>(Q9CfgE_GetDWEx(CES_SystemMonitor, CEK_MonitorRestart));
-        text = FormatResource(LoadString(kMonitorOffRestartText), minutes);
+        text = FormatResource(LoadString(strings::kCloseMonitorRestartQuestion), minutes);
     } else {
-        text = LoadString(kMonitorOffText);
+        text = LoadString(strings::kCloseMonitorQuestion);
     }
     if (ShowApplicationMessage(this, text, msg::kYesNo | msg::kIconQuestion) != msg::kIdYes) {
         SetCheck(kMonitorBox, 1);
