@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <string>
 
-#include "session/GroupedText.h"
 #include "session/RegistryHelpers.h"
+#include "text/GroupedText.h"
 
 namespace {
 

@@ -17,8 +17,8 @@
 
 #include "BenchInstallation.h"
 #include "ShellScenes.h"
-#include "session/ConfigDlg.h"
-#include "session/ConfigWindow.h"
+#include "shell/ConfigDlg.h"
+#include "shell/ConfigWindow.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 #include <QTreeWidget>
 
 #include "controls/HeaderStatic.h"
-#include "session/ConfigDlg.h"
-#include "session/ConfigWindow.h"
-#include "session/Session.h"
+#include "shell/ConfigDlg.h"
+#include "shell/ConfigWindow.h"
+#include "shell/Session.h"
 
 namespace {
 
@@ -50,13 +50,15 @@ WidgetBlueprint Capture(const QWidget* widget) {
     blueprint.geometry = widget->geometry();
     blueprint.text = TextOf(widget);
     blueprint.visible = !widget->isHidden();
-    if (const auto* box = qobject_cast<const QCheckBox*>(widget)) blueprint.checked = box->isChecked();
+    if (const auto* box = qobject_cast<const QCheckBox*>(widget))
+        blueprint.checked = box->isChecked();
     if (blueprint.kind == WidgetBlueprint::kTree) {
         CaptureRows(static_cast<const QTreeWidget*>(widget), blueprint);
         return blueprint;
     }
     for (const QObject* child : widget->children()) {
-        if (child->isWidgetType()) blueprint.children.push_back(Capture(static_cast<const QWidget*>(child)));
+        if (child->isWidgetType())
+            blueprint.children.push_back(Capture(static_cast<const QWidget*>(child)));
     }
     return blueprint;
 }
@@ -122,7 +124,8 @@ int ConfigDialogWidgetCount() {
     return count;
 }
 
-BareCopyScene::BareCopyScene(const WidgetBlueprint& blueprint) : m_dialog(std::make_unique<QDialog>()) {
+BareCopyScene::BareCopyScene(const WidgetBlueprint& blueprint)
+    : m_dialog(std::make_unique<QDialog>()) {
     m_dialog->resize(blueprint.geometry.size());
     for (const WidgetBlueprint& child : blueprint.children) Build(child, m_dialog.get());
     m_dialog->show();
@@ -140,8 +143,8 @@ void PaintBareDialog(int widgets) {
     for (int i = 0; i < 20; ++i) new QTreeWidgetItem(tree, QStringList(QString("Page %1").arg(i)));
     new QLabel("Header", &dialog);
     for (const char* text : {"OK", "Cancel", "Default"}) new QPushButton(text, &dialog);
-    for (int made = static_cast<int>(dialog.findChildren<QWidget*>().size()), row = 0; made < widgets;
-         made = static_cast<int>(dialog.findChildren<QWidget*>().size()), ++row) {
+    for (int made = static_cast<int>(dialog.findChildren<QWidget*>().size()), row = 0;
+         made < widgets; made = static_cast<int>(dialog.findChildren<QWidget*>().size()), ++row) {
         auto* box = new QCheckBox(QString("Function %1").arg(row), &dialog);
         box->setGeometry(240, 40 + 24 * (row % 16), 400, 22);
     }

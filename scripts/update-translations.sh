@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Brings every translation file src/resources/translations/Q9CU_<id>.ts in
 # line with the sources: the texts of the string table (context "StringTable")
-# and of the dialog templates under src/resources/dialogs/ (*.ui) that are new
+# and of the dialog templates under src/resources/forms/ (*.ui) that are new
 # are added as unfinished messages, texts that left the sources are dropped,
 # and translations already made are kept. Run it after changing texts, then
 # translate what it reports as unfinished.

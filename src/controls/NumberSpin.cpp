@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "session/GroupedNumber.h"
-#include "session/GroupedText.h"
+#include "controls/GroupedNumber.h"
+#include "text/GroupedText.h"
 
 CNumberSpin::CNumberSpin(QWidget* parent) : QWidget(parent) {
     auto* layout = new QVBoxLayout(this);

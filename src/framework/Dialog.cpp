@@ -3,9 +3,9 @@
 #include <QPushButton>
 
 #include "framework/DialogControls.h"
-#include "framework/MessageService.h"
-#include "resources/DialogTemplates.h"
-#include "resources/StringTable.h"
+#include "framework/DialogTemplates.h"
+#include "text/MessageService.h"
+#include "text/StringTable.h"
 
 CDialog::CDialog(int templateId, QWidget* parent)
     : QDialog(parent),
@@ -48,7 +48,8 @@ int CDialog::DefaultButtonId() const {
 }
 
 void CDialog::PostCommand(int id) {
-    QMetaObject::invokeMethod(this, [this, id] { OnCommand(id); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, id] { OnCommand(id); }, Qt::QueuedConnection);
 }
 
 void CDialog::OnCommand(int id) {

@@ -7,7 +7,7 @@
 #include <QDialog>
 #include <cstdint>
 
-#include "framework/PowerWatch.h"
+#include "session/PowerWatch.h"
 
 class CDialog : public QDialog {
 public:

@@ -3,7 +3,7 @@
 // The message service of the running program: a modal QMessageBox with the
 // buttons, icon and default button the box type asks for.
 
-#include "framework/MessageService.h"
+#include "text/MessageService.h"
 
 class QtMessageService final : public MessageService {
 public:

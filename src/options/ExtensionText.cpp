@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "resources/StringTable.h"
+#include "text/StringTable.h"
 
 namespace {
 

@@ -6,7 +6,6 @@
 
 #include "options/StoreKeys.h"
 #include "q9cfgul.h"
-#include "session/SiblingLibs.h"
 
 namespace {
 
@@ -70,19 +69,6 @@ void SetSwitchBit(uint32_t bit, bool on) {
     if (!key) return;
     const uint32_t word = Q9CfgE_GetDWEx(CES_Switch, *key);
     Q9CfgE_SetDWEx(CES_Switch, *key, on ? (word | bit) : (word & ~bit));
-}
-
-void ApplySwitch(uint32_t word, uint32_t mask, uint32_t bit, int32_t code, int32_t option) {
-    if ((mask & bit) == 0) return;
-    if ((word & bit) == 0) {
-        g_Siblings.ServiceControl(SC_Unregister, code, option);
-        return;
-    }
-    if (g_Siblings.ServiceControl(SC_CanBeRegister, code, option) != 0) {
-        g_Siblings.ServiceControl(SC_Register, code, option);
-    } else {
-        SetSwitchBit(bit, false);
-    }
 }
 
 SwitchMasks PageSwitchMasks(uint32_t flags) {

@@ -80,16 +80,6 @@ std::optional<uint32_t> SwitchKeyOfBit(uint32_t bit);
 // (on) or cleared. A value that no switch word holds is ignored.
 void SetSwitchBit(uint32_t bit, bool on);
 
-// Brings one function's registration into line with a policy's switch word
-// (word, mask) and its bit:
-//   mask lacks the bit:  nothing at all;
-//   word lacks the bit:  Unregister (with option);
-//   otherwise:           CanBeRegister, then Register when it may be;
-//                        when it may not, the bit is cleared in the store,
-//                        so that the store never claims a function that
-//                        cannot run.
-void ApplySwitch(uint32_t word, uint32_t mask, uint32_t bit, int32_t code, int32_t option);
-
 // The mask words that the function selection pages and the wizard write at
 // save, from the session flag word (DoModalFlags). An empty value is not
 // written.

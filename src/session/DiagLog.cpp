@@ -11,7 +11,7 @@
 #include "platform/DebugOutput.h"
 #include "platform/ProblemReport.h"
 #include "platform/Registry.h"
-#include "session/TextFormat.h"
+#include "text/TextFormat.h"
 
 CDiagLog g_Log;
 
@@ -63,8 +63,8 @@ void CDiagLog::Write(const char* format, ...) {
 }
 
 void CDiagLog::WriteToFile(const std::string& line) {
-    const int fd = ::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
-                          0600);
+    const int fd =
+        ::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fd < 0) {
         // Not through ReportProblem: that would come back here.
         if (!m_reportedFileFailure) {

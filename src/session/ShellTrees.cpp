@@ -4,42 +4,59 @@
 
 namespace {
 
-constexpr TreeRow Leaf(int page, int image) { return {TreeRowKind::kLeaf, page, image}; }
-constexpr TreeRow Group(int page, int image) { return {TreeRowKind::kGroup, page, image}; }
-constexpr TreeRow kClose = {TreeRowKind::kClose, -1, 0};
-constexpr TreeRow kEnd = {TreeRowKind::kEnd, -1, 0};
+using enum PageId;
 
+constexpr TreeRow Leaf(PageId page, int image) { return {TreeRowKind::kLeaf, page, image}; }
+constexpr TreeRow Group(PageId page, int image) { return {TreeRowKind::kGroup, page, image}; }
+constexpr TreeRow kClose = {TreeRowKind::kClose, kNone, 0};
+constexpr TreeRow kEnd = {TreeRowKind::kEnd, kNone, 0};
+
+// clang-format off
 constexpr TreeRow kNormalTree[] = {
-    Leaf(23, 1),
-    Group(0, 4), Leaf(1, 0), Leaf(4, 0), Leaf(3, 0), Leaf(5, 0), Leaf(7, 0), Leaf(24, 0),
-        Leaf(25, 0), Leaf(16, 0), kClose,
-    Group(8, 5), Leaf(13, 0), Leaf(12, 0), Leaf(11, 0), Leaf(9, 0), Leaf(26, 0), kClose,
-    Leaf(18, 6),
-    Leaf(17, 3),
-    Leaf(15, 7),
+    Leaf(kEasyConfig, 1),
+    Group(kFeatureSwitch, 4),
+        Leaf(kSystemScan, 0), Leaf(kSchedule, 0), Leaf(kScreenSaverScan, 0),
+        Leaf(kSystemMonitor, 0), Leaf(kInternetMonitor, 0), Leaf(kMessenger, 0),
+        Leaf(kStartup, 0), Leaf(kExclude, 0),
+        kClose,
+    Group(kMailSwitch, 5),
+        Leaf(kOutlookScan, 0), Leaf(kOutlookMonitor, 0), Leaf(kPop3Scan, 0),
+        Leaf(kWarnMail, 0), Leaf(kSpam, 0),
+        kClose,
+    Leaf(kPolicy, 6),
+    Leaf(kSecurity, 3),
+    Leaf(kOtherConfig, 7),
     kEnd,
 };
 
 constexpr TreeRow kMasterTree[] = {
-    Leaf(23, 1),
-    Group(0, 4), Leaf(1, 0), Leaf(4, 0), Leaf(3, 0), Leaf(5, 0), Leaf(7, 0), Leaf(25, 0),
-        Leaf(16, 0), kClose,
-    Leaf(18, 6),
-    Group(34, 9), Leaf(35, 0), kClose,
-    Leaf(32, 8),
-    Leaf(17, 3),
-    Leaf(15, 7),
+    Leaf(kEasyConfig, 1),
+    Group(kFeatureSwitch, 4),
+        Leaf(kSystemScan, 0), Leaf(kSchedule, 0), Leaf(kScreenSaverScan, 0),
+        Leaf(kSystemMonitor, 0), Leaf(kInternetMonitor, 0), Leaf(kStartup, 0),
+        Leaf(kExclude, 0),
+        kClose,
+    Leaf(kPolicy, 6),
+    Group(kBlockNetwork, 9),
+        Leaf(kPortBlock, 0),
+        kClose,
+    Leaf(kAlarmMail, 8),
+    Leaf(kSecurity, 3),
+    Leaf(kOtherConfig, 7),
     kEnd,
 };
 
 // Its pictures differ from the other trees' on purpose.
 constexpr TreeRow kLightTree[] = {
-    Leaf(23, 3),
-    Group(0, 6), Leaf(1, 1), Leaf(5, 1), kClose,
-    Leaf(15, 3),
-    Leaf(18, 11),
+    Leaf(kEasyConfig, 3),
+    Group(kFeatureSwitch, 6),
+        Leaf(kSystemScan, 1), Leaf(kSystemMonitor, 1),
+        kClose,
+    Leaf(kOtherConfig, 3),
+    Leaf(kPolicy, 11),
     kEnd,
 };
+// clang-format on
 
 bool Has(uint32_t flags, uint32_t flag) { return (flags & flag) != 0; }
 
@@ -51,21 +68,21 @@ const TreeRow* TreeForFlags(uint32_t flags) {
     return kNormalTree;
 }
 
-bool IsPageLeftOut(int page, uint32_t flags) {
+bool IsPageLeftOut(PageId page, uint32_t flags) {
     const bool noPop = Has(flags, DMF_RemovePopMon);
     const bool noOutlook = Has(flags, DMF_RemoveOutlookMon);
     switch (page) {
-        case 6:
-        case 7: return Has(flags, DMF_RemoveInternetMon);
-        case 16: return Has(flags, DMF_RemoveNonScanSector);
-        case 17: return Has(flags, DMF_RemoveSecurity);
-        case 10:
-        case 11: return noPop;
-        case 12:
-        case 13: return noOutlook;
-        case 8:
-        case 9:
-        case 26: return noPop && noOutlook;
+        case kInternetMonitorSpare:
+        case kInternetMonitor: return Has(flags, DMF_RemoveInternetMon);
+        case kExclude: return Has(flags, DMF_RemoveNonScanSector);
+        case kSecurity: return Has(flags, DMF_RemoveSecurity);
+        case kPop3Config:
+        case kPop3Scan: return noPop;
+        case kOutlookMonitor:
+        case kOutlookScan: return noOutlook;
+        case kMailSwitch:
+        case kWarnMail:
+        case kSpam: return noPop && noOutlook;
         default: return false;
     }
 }

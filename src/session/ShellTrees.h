@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "session/PageId.h"
+
 enum class TreeRowKind : int8_t {
     kEnd = -1,
     kLeaf = 0,
@@ -14,7 +16,7 @@ enum class TreeRowKind : int8_t {
 
 struct TreeRow {
     TreeRowKind kind;
-    int page;
+    PageId page;
     int image;  // index in the 16 by 16 tree pictures, selected or not
 };
 
@@ -23,4 +25,4 @@ struct TreeRow {
 const TreeRow* TreeForFlags(uint32_t flags);
 
 // Whether the flags leave the row of a leaf or group out of the tree.
-bool IsPageLeftOut(int page, uint32_t flags);
+bool IsPageLeftOut(PageId page, uint32_t flags);

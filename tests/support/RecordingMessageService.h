@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/MessageService.h"
+#include "text/MessageService.h"
 
 struct RecordedMessage {
     QWidget* owner;

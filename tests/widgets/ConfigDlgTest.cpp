@@ -1,5 +1,3 @@
-#include "session/ConfigDlg.h"
-
 #include <Q9CfgE.h>
 #include <gtest/gtest.h>
 
@@ -12,8 +10,9 @@
 #include "controls/HeaderStatic.h"
 #include "options/StoreKeys.h"
 #include "q9cfgul.h"
-#include "session/ConfigWindow.h"
 #include "session/ProcessState.h"
+#include "shell/ConfigDlg.h"
+#include "shell/ConfigWindow.h"
 
 namespace {
 
@@ -83,8 +82,9 @@ TEST_F(ConfigDlgTest, EachRemovalFlagLeavesOutItsRows) {
               "23:1 0:4[1:0 4:0 3:0 5:0 24:0 25:0] 8:5[13:0 12:0 11:0 9:0 26:0] 18:6 15:7");
     dialog.reset();
     Open(-1, DMF_RemovePopMon);
-    EXPECT_EQ(TreeOutline(dialog->Tree()),
-              "23:1 0:4[1:0 4:0 3:0 5:0 7:0 24:0 25:0 16:0] 8:5[13:0 12:0 9:0 26:0] 18:6 17:3 15:7");
+    EXPECT_EQ(
+        TreeOutline(dialog->Tree()),
+        "23:1 0:4[1:0 4:0 3:0 5:0 7:0 24:0 25:0 16:0] 8:5[13:0 12:0 9:0 26:0] 18:6 17:3 15:7");
     dialog.reset();
     Open(-1, DMF_RemoveOutlookMon);
     EXPECT_EQ(TreeOutline(dialog->Tree()),

@@ -9,15 +9,13 @@
 
 #include "SwitchPageTest.h"
 #include "framework/DialogControls.h"
-#include "framework/MessageService.h"
 #include "options/StoreKeys.h"
 #include "pages/scan/FeatureSwitchPage.h"
 #include "q9cfgul.h"
 #include "session/SiblingLibs.h"
+#include "text/MessageService.h"
 
 namespace {
-
-constexpr int kTemplate = 1013;
 
 constexpr int kMonitor = 1005;
 constexpr int kInternet = 1006;
@@ -66,9 +64,7 @@ std::string ApplicationName() { return QCoreApplication::applicationName().toStd
 
 class FeatureSwitchPageTest : public SwitchPageTest {
 protected:
-    CFeatureSwitchPage* Make(uint32_t flags = 0) {
-        return MakePage<CFeatureSwitchPage>(kTemplate, flags);
-    }
+    CFeatureSwitchPage* Make(uint32_t flags = 0) { return MakePage<CFeatureSwitchPage>(flags); }
 
     // Saves, then applies with a fresh journal; the journal's lines.
     std::vector<std::string> SaveAndApply(CFeatureSwitchPage* page) {

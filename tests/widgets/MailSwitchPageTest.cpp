@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int kTemplate = 1014;
-
 constexpr int kPop3 = 1009;
 constexpr int kOutlookScan = 1121;
 constexpr int kOutlookMonitor = 1070;
@@ -36,9 +34,7 @@ constexpr std::array<Box, 3> kBoxes = {{
 
 class MailSwitchPageTest : public SwitchPageTest {
 protected:
-    CMailSwitchPage* Make(uint32_t flags = 0) {
-        return MakePage<CMailSwitchPage>(kTemplate, flags);
-    }
+    CMailSwitchPage* Make(uint32_t flags = 0) { return MakePage<CMailSwitchPage>(flags); }
 
     std::vector<std::string> SaveAndApply(CMailSwitchPage* page) {
         page->Save();
@@ -241,13 +237,15 @@ TEST_F(MailSwitchPageTest, SaveWritesTheBoxesIntoTheWordAndKeepsItsOtherBits) {
     EXPECT_EQ(page->NeedApply(), 1);
 }
 
+// The table of who writes the mask words rules: in the light edition the
+// page leaves the mail mask as it stands.
 TEST_F(MailSwitchPageTest, SaveWritesTheMaskOfTheEdition) {
     SetWord(CES_Switch, CEK_Switch_ScanMask, 0x77);
     const std::array<std::pair<uint32_t, uint32_t>, 5> masks = {{
         {DMF_RemovePopMon, 0xC000},
         {DMF_RemoveOutlookMon, 0x1000},
         {DMF_RemovePopMon | DMF_RemoveOutlookMon, 0xC000},
-        {DMF_IsLight, 0xFFFFFFFF},
+        {DMF_IsLight, 0x77},
         {DMF_Master, 0xFFFFFFFF},
     }};
     for (const auto& [flags, mask] : masks) {

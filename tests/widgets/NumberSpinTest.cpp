@@ -1,5 +1,3 @@
-#include "controls/NumberSpin.h"
-
 #include <gtest/gtest.h>
 
 #include <QKeyEvent>
@@ -7,7 +5,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "session/GroupedNumber.h"
+#include "controls/GroupedNumber.h"
+#include "controls/NumberSpin.h"
 #include "support/RecordingMessageService.h"
 
 namespace {

@@ -1,5 +1,3 @@
-#include "session/PageShellDlg.h"
-
 #include <Q9CfgE.h>
 #include <gtest/gtest.h>
 
@@ -8,8 +6,9 @@
 
 #include "ShellTestSupport.h"
 #include "options/StoreKeys.h"
-#include "session/ConfigWindow.h"
 #include "session/ProcessState.h"
+#include "shell/ConfigWindow.h"
+#include "shell/PageShellDlg.h"
 
 namespace {
 

@@ -3,9 +3,10 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <memory>
 
 #include "framework/DialogControls.h"
-#include "resources/DialogTemplates.h"
+#include "framework/DialogTemplates.h"
 
 std::vector<std::string> PageLog::Only(const std::string& name) const {
     std::vector<std::string> found;
@@ -37,7 +38,7 @@ void RecordingPage::Record(const std::string& call) {
     log_->calls.push_back(call + " " + std::to_string(pageId_));
 }
 
-void RecordingPage::Save() { Record("Save"); }
+void RecordingPage::OnSave() { Record("Save"); }
 void RecordingPage::Apply() { Record("Apply"); }
 int32_t RecordingPage::Validate() {
     Record("Validate");
@@ -69,9 +70,9 @@ void RecordingPage::OnControlCommand(int id, ctl::Notification) {
 
 PageFactory RecordingPages(PageLog* log, std::set<int> ids, PageSetup setup) {
     RecordingPage::RegisterTemplate();
-    return [log, ids, setup](int id) -> CSettingsPage* {
+    return [log, ids, setup](int id) -> std::unique_ptr<CSettingsPage> {
         if (!ids.count(id)) return nullptr;
-        auto* page = new RecordingPage(id, log);
+        auto page = std::make_unique<RecordingPage>(id, log);
         if (setup) setup(*page);
         return page;
     };

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "session/PageTable.h"
-#include "session/SettingsPage.h"
+#include "pages/SettingsPage.h"
+#include "shell/PageTable.h"
 
 struct PageLog {
     std::vector<std::string> calls;
@@ -30,7 +30,6 @@ public:
     // Registers the page's template; idempotent.
     static void RegisterTemplate();
 
-    void Save() override;
     void Apply() override;
     int32_t Validate() override;
     int32_t OnDefault() override;
@@ -46,6 +45,7 @@ public:
     const ImageList* icons = nullptr;
 
 protected:
+    void OnSave() override;
     bool OnInitDialog() override;
     void OnControlCommand(int id, ctl::Notification code) override;
 

@@ -1,5 +1,3 @@
-#include "session/SettingsPage.h"
-
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -13,7 +11,8 @@
 #include "RecordingPage.h"
 #include "framework/Dialog.h"
 #include "framework/DialogControls.h"
-#include "resources/DialogTemplates.h"
+#include "framework/DialogTemplates.h"
+#include "pages/SettingsPage.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "framework/DialogControls.h"
-#include "session/SettingsPage.h"
+#include "pages/SettingsPage.h"
 
 namespace {
 

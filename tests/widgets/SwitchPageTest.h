@@ -23,8 +23,8 @@ protected:
 
     // Makes a page with the session flags and creates its window.
     template <typename Page>
-    Page* MakePage(int templateId, uint32_t flags) {
-        auto* page = new Page(templateId);
+    Page* MakePage(uint32_t flags) {
+        auto* page = new Page();
         page->SetFlags(flags);
         EXPECT_TRUE(page->Create(&m_parent));
         return page;

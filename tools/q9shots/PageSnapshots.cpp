@@ -7,13 +7,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "framework/MessageService.h"
 #include "q9cfgul.h"
-#include "session/CfgApp.h"
-#include "session/ConfigDlg.h"
-#include "session/ConfigWindow.h"
 #include "session/EditionFlags.h"
-#include "session/Session.h"
+#include "shell/CfgApp.h"
+#include "shell/ConfigDlg.h"
+#include "shell/ConfigWindow.h"
+#include "shell/Session.h"
+#include "text/MessageService.h"
 
 namespace {
 
@@ -58,7 +58,8 @@ int SaveEachPage(CConfigDlg& dialog, const QString& folder, const char* edition)
 }  // namespace
 
 bool ParseEdition(const std::string& text, Edition* edition) {
-    for (Edition candidate : {Edition::kInstalled, Edition::kNormal, Edition::kMaster, Edition::kLight}) {
+    for (Edition candidate :
+         {Edition::kInstalled, Edition::kNormal, Edition::kMaster, Edition::kLight}) {
         if (text == EditionName(candidate)) {
             *edition = candidate;
             return true;

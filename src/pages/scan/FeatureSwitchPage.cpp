@@ -1,86 +1,85 @@
 #include "pages/scan/FeatureSwitchPage.h"
 
-#include <Q9CfgE.h>
-
-#include <array>
 #include <string>
-#include <utility>
 
-#include "framework/MessageService.h"
 #include "options/ScanBits.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
 #include "q9cfgul.h"
-#include "resources/StringTable.h"
 #include "session/SiblingLibs.h"
-#include "session/TextFormat.h"
+#include "text/MessageService.h"
+#include "text/StringTable.h"
+#include "text/TextFormat.h"
 
 namespace {
-
-constexpr int kMonitorBox = 1005;
-constexpr int kInternetBox = 1006;
-constexpr int kMessengerBox = 1007;
-constexpr int kStartupBox = 1008;
-constexpr int kOfficeBox = 1011;
-constexpr int kScreenSaverBox = 1033;
-constexpr int kShellBox = 1035;
-constexpr int kBarBox = 1036;
 
 // The bit of the default word that checks Office Guard.
 constexpr uint32_t kOfficeDefaultBit = 0x4;
 
-using Registrable = std::pair<int, int32_t>;
-
-// The boxes disabled when their functions cannot run, in the order asked, in
-// the master edition and, after the messenger's box, in the others.
-constexpr std::array<Registrable, 5> kRegistrableBoxes = {{
-    {kStartupBox, SSCT_START_PROCESS},
-    {kOfficeBox, SSCT_OFFICE_GUARD},
-    {kScreenSaverBox, SSCT_SCRSAVER_SCAN},
-    {kShellBox, SSCT_Q9SHELLEX},
-    {kBarBox, SSCT_Q9BAR},
-}};
+// What Save writes besides the switch word.
+constexpr StoreAddress kMessengerSelect = {CES_Messenger, CEK_MessengerSelect};
+constexpr StoreAddress kMessengerExtra = {CES_Messenger, CEK_ScanExtra};
+constexpr StoreAddress kStartupExtra = {CES_Startup, CEK_ScanExtra};
+constexpr StoreAddress kScanMask = {CES_Switch, CEK_Switch_ScanMask};
 
 }  // namespace
 
-CFeatureSwitchPage::CFeatureSwitchPage(int templateId) : CSwitchPage(templateId, CEK_Switch_Scan) {
+CFeatureSwitchPage::CFeatureSwitchPage() : CFormPage(kTemplateId, CEK_Switch_Scan) {}
+
+std::vector<CSwitchPage::Row> CFeatureSwitchPage::Rows() {
     // In the order Apply registers; the Screen Saver Scan has no clicked flag
     // and is registered or unregistered at every Apply.
-    SetRows({
-        {kShellBox, SSCT_Q9SHELLEX, &m_bShellClicked, strings::kExplorerScanQuestion},
-        {kBarBox, SSCT_Q9BAR, &m_bBarClicked, strings::kExplorerScanQuestion},
-        {kMonitorBox, SSCT_SYSTEM_MONITOR, &m_bMonitorClicked, 0},
-        {kInternetBox, SSCT_HTTP_PROXY, &m_bInternetClicked, 0},
-        {kMessengerBox, SSCT_MESSENGER, &m_bMessengerClicked, 0},
-        {kStartupBox, SSCT_START_PROCESS, &m_bStartupClicked, 0},
-        {kOfficeBox, SSCT_OFFICE_GUARD, &m_bOfficeClicked, strings::kOfficeGuardQuestion},
-        {kScreenSaverBox, SSCT_SCRSAVER_SCAN, nullptr, 0},
-    });
+    return {
+        {m_ui.shellBox, SSCT_Q9SHELLEX, &m_bShellClicked, strings::kExplorerScanQuestion},
+        {m_ui.barBox, SSCT_Q9BAR, &m_bBarClicked, strings::kExplorerScanQuestion},
+        {m_ui.monitorBox, SSCT_SYSTEM_MONITOR, &m_bMonitorClicked, 0},
+        {m_ui.internetBox, SSCT_HTTP_PROXY, &m_bInternetClicked, 0},
+        {m_ui.messengerBox, SSCT_MESSENGER, &m_bMessengerClicked, 0},
+        {m_ui.startupBox, SSCT_START_PROCESS, &m_bStartupClicked, 0},
+        {m_ui.officeBox, SSCT_OFFICE_GUARD, &m_bOfficeClicked, strings::kOfficeGuardQuestion},
+        {m_ui.screenSaverBox, SSCT_SCRSAVER_SCAN, nullptr, 0},
+    };
+}
+
+void CFeatureSwitchPage::BindControls() {
+    CSwitchPage::BindControls();
+    m_bind.Owns(kMessengerSelect, kMessengerAutoRecognition);
+    m_bind.Owns(kMessengerExtra, kExtraMessengers);
+    m_bind.Owns(kStartupExtra, kExtraStartupItems);
+    m_bind.Owns(kScanMask, 0xFFFFFFFF);
 }
 
 bool CFeatureSwitchPage::IsLight() const { return (m_flags & DMF_IsLight) != 0; }
 
-bool CFeatureSwitchPage::OnInitDialog() {
-    DisableUnlessRegistrable(kMonitorBox, SSCT_SYSTEM_MONITOR);
+void CFeatureSwitchPage::PrepareControls() {
+    DisableUnlessRegistrable(m_ui.monitorBox, SSCT_SYSTEM_MONITOR);
+    // The boxes disabled when their functions cannot run, in the order asked,
+    // in the master edition and, after the messenger's box, in the others.
+    const auto disableUnregistrable = [this] {
+        DisableUnlessRegistrable(m_ui.startupBox, SSCT_START_PROCESS);
+        DisableUnlessRegistrable(m_ui.officeBox, SSCT_OFFICE_GUARD);
+        DisableUnlessRegistrable(m_ui.screenSaverBox, SSCT_SCRSAVER_SCAN);
+        DisableUnlessRegistrable(m_ui.shellBox, SSCT_Q9SHELLEX);
+        DisableUnlessRegistrable(m_ui.barBox, SSCT_Q9BAR);
+    };
+    const int internetBox = ctl::IdOf(m_ui.internetBox);
     if (IsLight()) {
         // Only System Monitoring stays; with the rest hidden, Load and Default
         // set that box alone.
-        ShowRange(kInternetBox, -1, false, true);
+        ShowRange(internetBox, -1, false, true);
     } else if ((m_flags & DMF_Master) != 0) {
         // The master edition has no messenger row: the box and its description.
-        ShowCount(kMessengerBox, 2, false, true);
-        for (const auto& [id, code] : kRegistrableBoxes) DisableUnlessRegistrable(id, code);
+        ShowCount(ctl::IdOf(m_ui.messengerBox), 2, false, true);
+        disableUnregistrable();
     } else {
-        DisableUnlessRegistrable(kMessengerBox, SSCT_MESSENGER);
-        for (const auto& [id, code] : kRegistrableBoxes) DisableUnlessRegistrable(id, code);
+        DisableUnlessRegistrable(m_ui.messengerBox, SSCT_MESSENGER);
+        disableUnregistrable();
         if ((m_flags & DMF_RemoveInternetMon) != 0) {
-            ShowCount(kInternetBox, 2, false, true);
+            ShowCount(internetBox, 2, false, true);
         } else {
-            DisableUnlessRegistrable(kInternetBox, SSCT_HTTP_PROXY);
+            DisableUnlessRegistrable(m_ui.internetBox, SSCT_HTTP_PROXY);
         }
     }
-    Load();
-    return true;
 }
 
 bool CFeatureSwitchPage::AppliesRow(const Row& row) const {
@@ -93,55 +92,53 @@ bool CFeatureSwitchPage::AppliesRow(const Row& row) const {
 }
 
 void CFeatureSwitchPage::OnRowClicked(const Row& row) {
-    if (row.id == kMonitorBox && GetCheck(kMonitorBox) == 0) ConfirmMonitorOff();
+    if (row.box == m_ui.monitorBox && !m_ui.monitorBox->isChecked()) ConfirmMonitorOff();
 }
 
 void CFeatureSwitchPage::ConfirmMonitorOff() {
     std::string text;
-    if (g_Siblings.ServiceControl(SC_IsRegistered, SSCT_MONSYS_AUTO, kServiceOption) != 0) {
+    if (Context().Siblings().ServiceControl(SC_IsRegistered, SSCT_MONSYS_AUTO, kServiceOption) !=
+        0) {
         const auto minutes =
-            static_cast<int>(Q9CfgE_GetDWEx(CES_SystemMonitor, CEK_MonitorRestart));
+            static_cast<int>(StoreValues().Word({CES_SystemMonitor, CEK_MonitorRestart}));
         text = FormatResource(LoadString(strings::kCloseMonitorRestartQuestion), minutes);
     } else {
         text = LoadString(strings::kCloseMonitorQuestion);
     }
-    if (ShowApplicationMessage(this, text, msg::kYesNo | msg::kIconQuestion) != msg::kIdYes) {
-        SetCheck(kMonitorBox, 1);
-    }
+    if (ShowApplicationMessage(this, text, msg::kYesNo | msg::kIconQuestion) != msg::kIdYes)
+        m_ui.monitorBox->setChecked(true);
 }
 
 void CFeatureSwitchPage::SaveRelated() {
-    if (GetCheck(kMessengerBox) != 0) {
+    const StoreValues store;
+    if (m_ui.messengerBox->isChecked()) {
         // Switching the function on with no messenger chosen turns on Auto
         // Recognition, and Auto Recognition means every messenger.
-        uint32_t select = Q9CfgE_GetDWEx(CES_Messenger, CEK_MessengerSelect);
-        const uint32_t extra = Q9CfgE_GetDWEx(CES_Messenger, CEK_ScanExtra);
+        uint32_t select = store.Word(kMessengerSelect);
+        const uint32_t extra = store.Word(kMessengerExtra);
         if ((extra & kExtraMessengers) == 0) {
             select |= kMessengerAutoRecognition;
-            Q9CfgE_SetDWEx(CES_Messenger, CEK_MessengerSelect, select);
+            WriteWord(kMessengerSelect, select);
         }
-        if ((select & kMessengerAutoRecognition) != 0) {
-            Q9CfgE_SetDWEx(CES_Messenger, CEK_ScanExtra, extra | kExtraMessengers);
-        }
+        if ((select & kMessengerAutoRecognition) != 0)
+            WriteWord(kMessengerExtra, extra | kExtraMessengers);
     }
-    if (GetCheck(kStartupBox) != 0) {
-        const uint32_t extra = Q9CfgE_GetDWEx(CES_Startup, CEK_ScanExtra);
-        if ((extra & kExtraStartupItems) == 0) {
-            Q9CfgE_SetDWEx(CES_Startup, CEK_ScanExtra, extra | kExtraStartupItems);
-        }
+    if (m_ui.startupBox->isChecked()) {
+        const uint32_t extra = store.Word(kStartupExtra);
+        if ((extra & kExtraStartupItems) == 0) WriteWord(kStartupExtra, extra | kExtraStartupItems);
     }
-    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMask, *PageSwitchMasks(m_flags).scan);
+    if (const auto mask = PageSwitchMasks(m_flags).scan) WriteWord(kScanMask, *mask);
 }
 
 void CFeatureSwitchPage::AfterDefault(uint32_t word) {
     // Office Guard and the shell functions are set without their questions.
     if ((word & kOfficeDefaultBit) == 0) {
-        SetCheck(kOfficeBox, 0);
+        m_ui.officeBox->setChecked(false);
         m_bOfficeClicked = 1;
     }
     if ((m_flags & DMF_Master) != 0) {
-        SetCheck(kShellBox, 0);
-        SetCheck(kBarBox, 0);
+        m_ui.shellBox->setChecked(false);
+        m_ui.barBox->setChecked(false);
         m_bShellClicked = 1;
         m_bBarClicked = 1;
     }

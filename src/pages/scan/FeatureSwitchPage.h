@@ -6,15 +6,22 @@
 // row, and a profile without internet monitoring has no internet row.
 
 #include <cstdint>
+#include <vector>
 
+#include "pages/FormPage.h"
 #include "pages/scan/SwitchPage.h"
+#include "ui_Dialog1013.h"
 
-class CFeatureSwitchPage : public CSwitchPage {
+class CFeatureSwitchPage : public CFormPage<Ui::Dialog1013, CSwitchPage> {
 public:
-    explicit CFeatureSwitchPage(int templateId);
+    static constexpr int kTemplateId = 1013;
+
+    CFeatureSwitchPage();
 
 protected:
-    bool OnInitDialog() override;
+    std::vector<Row> Rows() override;
+    void BindControls() override;
+    void PrepareControls() override;
     bool AppliesRow(const Row& row) const override;
     void OnRowClicked(const Row& row) override;
     void SaveRelated() override;

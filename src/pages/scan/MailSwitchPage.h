@@ -6,15 +6,22 @@
 // monitoring drops both Outlook rows.
 
 #include <cstdint>
+#include <vector>
 
+#include "pages/FormPage.h"
 #include "pages/scan/SwitchPage.h"
+#include "ui_Dialog1014.h"
 
-class CMailSwitchPage : public CSwitchPage {
+class CMailSwitchPage : public CFormPage<Ui::Dialog1014, CSwitchPage> {
 public:
-    explicit CMailSwitchPage(int templateId);
+    static constexpr int kTemplateId = 1014;
+
+    CMailSwitchPage();
 
 protected:
-    bool OnInitDialog() override;
+    std::vector<Row> Rows() override;
+    void BindControls() override;
+    void PrepareControls() override;
     bool AppliesRow(const Row& row) const override;
     void SaveRelated() override;
 

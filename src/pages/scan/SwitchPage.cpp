@@ -1,62 +1,74 @@
 #include "pages/scan/SwitchPage.h"
 
-#include <Q9CfgE.h>
+#include <QAbstractButton>
 
-#include <utility>
-
-#include "framework/MessageService.h"
-#include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
-#include "resources/StringTable.h"
 #include "session/SiblingLibs.h"
+#include "text/MessageService.h"
+#include "text/StringTable.h"
+
+namespace {
+
+// The store, except that the page's switch word is what the registrations
+// say: the boxes follow the functions, not the stored bits.
+class RegisteredValues : public StoreValues {
+public:
+    RegisteredValues(StoreAddress word, uint32_t registered)
+        : m_word(word), m_registered(registered) {}
+
+    uint32_t Word(StoreAddress address) const override {
+        return address == m_word ? m_registered : StoreValues::Word(address);
+    }
+
+private:
+    StoreAddress m_word;
+    uint32_t m_registered;
+};
+
+}  // namespace
 
 CSwitchPage::CSwitchPage(int templateId, uint32_t wordKey)
-    : CSettingsPage(templateId), m_wordKey(wordKey) {}
+    : CBoundPage(templateId, Applies::kYes), m_wordKey(wordKey) {}
 
-void CSwitchPage::SetRows(std::vector<Row> rows) { m_rows = std::move(rows); }
+StoreAddress CSwitchPage::Word() const { return {CES_Switch, m_wordKey}; }
+
+void CSwitchPage::BindControls() {
+    m_rows = Rows();
+    for (const Row& row : m_rows) {
+        m_bind.Bit(row.box, Word(), SwitchBitOf(row.code), BitSense::kCheckedWhenSet,
+                   BitShow::kWhenAvailable);
+    }
+}
 
 void CSwitchPage::Load() {
     uint32_t word = 0;
     for (const Row& row : m_rows) {
-        if (g_Siblings.ServiceControl(SC_IsRegistered, row.code, kServiceOption) != 0) {
+        if (Context().Siblings().ServiceControl(SC_IsRegistered, row.code, kServiceOption) != 0)
             word |= SwitchBitOf(row.code);
-        }
     }
-    ShowWord(word);
+    ShowValues(RegisteredValues(Word(), word));
     m_modified = 0;
 }
 
-void CSwitchPage::ShowWord(uint32_t word) {
-    for (const Row& row : m_rows) {
-        if (IsEnabledAndVisible(row.id) != 0)
-            SetCheck(row.id, (word & SwitchBitOf(row.code)) != 0 ? 1 : 0);
-    }
+void CSwitchPage::DisableUnlessRegistrable(QAbstractButton* box, int32_t code) {
+    if (Context().Siblings().ServiceControl(SC_CanBeRegister, code, kServiceOption) == 0)
+        box->setEnabled(false);
 }
 
-void CSwitchPage::DisableUnlessRegistrable(int id, int32_t code) {
-    if (g_Siblings.ServiceControl(SC_CanBeRegister, code, kServiceOption) == 0) {
-        ctl::Enable(this, id, false);
-    }
-}
-
-void CSwitchPage::Save() {
-    if (m_covered) return;
-    uint32_t word = Q9CfgE_GetDWEx(CES_Switch, m_wordKey);
-    for (const Row& row : m_rows)
-        word = SetBits(word, SwitchBitOf(row.code), GetCheck(row.id) != 0);
-    Q9CfgE_SetDWEx(CES_Switch, m_wordKey, word);
+void CSwitchPage::SaveMore() {
     SaveRelated();
-    g_Siblings.MarkPending(RowBits(), 0);
+    Context().Siblings().MarkPending(RowBits(), 0);
     m_needApply = 1;
 }
 
 void CSwitchPage::Apply() {
-    const uint32_t word = Q9CfgE_GetDWEx(CES_Switch, m_wordKey);
+    const uint32_t word = StoreValues().Word(Word());
     for (const Row& row : m_rows) {
         if (!AppliesRow(row)) continue;
         const bool on = (word & SwitchBitOf(row.code)) != 0;
-        g_Siblings.ServiceControl(on ? SC_Register : SC_Unregister, row.code, kServiceOption);
+        Context().Siblings().ServiceControl(on ? SC_Register : SC_Unregister, row.code,
+                                            kServiceOption);
     }
 }
 
@@ -65,11 +77,8 @@ bool CSwitchPage::AppliesRow(const Row& row) const {
 }
 
 int32_t CSwitchPage::OnDefault() {
-    const uint32_t word = Q9CfgE_GetDefaultDW(CES_Switch, m_wordKey);
-    ShowWord(word);
-    AfterDefault(word);
-    m_modified = 1;
-    m_needApply = 1;
+    CBoundPage::OnDefault();
+    AfterDefault(DefaultValues().Word(Word()));
     return 1;
 }
 
@@ -77,16 +86,15 @@ void CSwitchPage::OnControlCommand(int id, ctl::Notification code) {
     const Row* row = FindRow(id);
     if (row == nullptr || code != ctl::Notification::kClicked) return;
     // The box already shows the click's result.
-    if (row->onPrompt != 0 && GetCheck(id) != 0 && !AskYesNo(row->onPrompt)) SetCheck(id, 0);
+    if (row->onPrompt != 0 && row->box->isChecked() && !AskYesNo(row->onPrompt))
+        row->box->setChecked(false);
     OnRowClicked(*row);
     if (row->clicked != nullptr) *row->clicked = 1;
-    m_modified = 1;
-    m_needApply = 1;
 }
 
 const CSwitchPage::Row* CSwitchPage::FindRow(int id) const {
     for (const Row& row : m_rows) {
-        if (row.id == id) return &row;
+        if (ctl::IdOf(row.box) == id) return &row;
     }
     return nullptr;
 }

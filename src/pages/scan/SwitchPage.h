@@ -1,28 +1,29 @@
 #pragma once
 
 // The base of the function selection pages: each check box of such a page
-// turns one whole function of the product on or off. The page holds no
-// options of its own. A box shows whether its function is registered; Save
-// writes the boxes into the page's switch word of CES_Switch and marks their
-// bits pending; Apply, after the commit, registers or unregisters the
-// functions by the word.
+// turns one whole function of the product on or off. A box shows whether
+// its function is registered (or, while its bit is pending, what this
+// session chose); Save writes the boxes into the page's switch word of
+// CES_Switch and marks their bits pending; Apply, after the commit,
+// registers or unregisters the functions by the word.
 
 #include <cstdint>
 #include <vector>
 
-#include "session/SettingsPage.h"
+#include "pages/BoundPage.h"
 
-class CSwitchPage : public CSettingsPage {
+class QAbstractButton;
+
+class CSwitchPage : public CBoundPage {
 public:
     void Load() override;
-    void Save() override;
     void Apply() override;
     int32_t OnDefault() override;
 
 protected:
     // One check box of the page.
     struct Row {
-        int id;             // the check box
+        QAbstractButton* box;
         int32_t code;       // the function it switches (SSCT_*)
         int32_t* clicked;   // the page's flag of a user click on the box;
                             // null for a box whose function every Apply switches
@@ -34,13 +35,9 @@ protected:
     CSwitchPage(int templateId, uint32_t wordKey);
 
     // The page's rows, in the order Apply switches their functions.
-    void SetRows(std::vector<Row> rows);
-
-    // Sets each box that is visible and enabled from word: the one routine
-    // behind Load and OnDefault.
-    void ShowWord(uint32_t word);
-    // Disables box id when function code cannot run on this machine.
-    void DisableUnlessRegistrable(int id, int32_t code);
+    virtual std::vector<Row> Rows() = 0;
+    // Disables box when function code cannot run on this machine.
+    void DisableUnlessRegistrable(QAbstractButton* box, int32_t code);
 
     // Whether Apply switches the row's function: by default when the box
     // has no clicked flag or the user clicked it.
@@ -54,6 +51,8 @@ protected:
     // What OnDefault does after the boxes show the default word.
     virtual void AfterDefault(uint32_t /*word*/) {}
 
+    void BindControls() override;
+    void SaveMore() override;
     void OnControlCommand(int id, ctl::Notification code) override;
 
 private:
@@ -62,6 +61,7 @@ private:
     bool AskYesNo(uint32_t textId);
     // Every bit of the page's rows.
     uint32_t RowBits() const;
+    StoreAddress Word() const;
 
     uint32_t m_wordKey;
     std::vector<Row> m_rows;

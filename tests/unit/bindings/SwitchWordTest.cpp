@@ -7,6 +7,7 @@
 #include "BindingTest.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "session/ApplySwitch.h"
 #include "session/SiblingLibs.h"
 
 namespace {

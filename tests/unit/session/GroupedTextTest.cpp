@@ -1,6 +1,6 @@
-#include "session/GroupedText.h"
-
 #include <gtest/gtest.h>
+
+#include "text/GroupedText.h"
 
 TEST(GroupedText, ShowsThousandsGroupedAtEachThreshold) {
     EXPECT_EQ(FormatGroupedNumber(0), "0");

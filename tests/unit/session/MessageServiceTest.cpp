@@ -1,8 +1,7 @@
-#include "framework/MessageService.h"
-
 #include <gtest/gtest.h>
 
 #include "support/RecordingMessageService.h"
+#include "text/MessageService.h"
 
 TEST(MessageService, DefaultAnswerFollowsButtonsAndDefaultButton) {
     EXPECT_EQ(msg::DefaultAnswer(msg::kOk), msg::kIdOk);

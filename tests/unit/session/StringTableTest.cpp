@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QString>
 #include <QRegularExpression>
+#include <QString>
 #include <QTranslator>
 #include <algorithm>
 #include <cstddef>
@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "resources/StringTable.h"
+#include "text/StringTable.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "session/TextFormat.h"
-
 #include <gtest/gtest.h>
+
+#include "text/TextFormat.h"
 
 namespace {
 std::string Bounded(std::size_t capacity, const char* format, ...)

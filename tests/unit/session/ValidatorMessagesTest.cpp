@@ -1,8 +1,7 @@
-#include "session/ValidatorMessages.h"
-
 #include <gtest/gtest.h>
 
 #include "support/RecordingMessageService.h"
+#include "text/ValidatorMessages.h"
 
 TEST(ValidatorMessages, RangeMessageShowsGroupedBounds) {
     EXPECT_EQ(RangeMessageText(512, 4194303), "Please enter the values between 512 ~ 4,194,303.");

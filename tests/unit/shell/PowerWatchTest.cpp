@@ -1,5 +1,3 @@
-#include "framework/PowerWatch.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -7,6 +5,7 @@
 #include <vector>
 
 #include "platform/BatteryState.h"
+#include "session/PowerWatch.h"
 #include "support/TemporaryRegistry.h"
 
 namespace {
@@ -16,7 +15,9 @@ namespace fs = std::filesystem;
 // A power supply folder of the test's own, as the kernel lays it out.
 class PowerWatchTest : public testing::Test {
 protected:
-    PowerWatchTest() : m_root(m_scratch.Base() + "/power_supply") { fs::create_directories(m_root); }
+    PowerWatchTest() : m_root(m_scratch.Base() + "/power_supply") {
+        fs::create_directories(m_root);
+    }
 
     void Supply(const std::string& name, const std::string& type, const std::string& status,
                 const std::string& level) const {

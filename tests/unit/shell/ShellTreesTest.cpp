@@ -1,5 +1,3 @@
-#include "session/ShellTrees.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,6 +5,7 @@
 #include <vector>
 
 #include "q9cfgul.h"
+#include "session/ShellTrees.h"
 
 namespace {
 
@@ -20,7 +19,7 @@ std::string Outline(uint32_t flags) {
             continue;
         }
         if (!text.empty() && text.back() != '[') text += ' ';
-        text += std::to_string(row->page) + ":" + std::to_string(row->image);
+        text += std::to_string(ToInt(row->page)) + ":" + std::to_string(row->image);
         if (row->kind == TreeRowKind::kGroup) text += "[";
     }
     return text;
@@ -63,15 +62,16 @@ TEST(ShellTreesTest, EachFlagLeavesOutItsRows) {
         for (int page = 0; page <= 40; ++page) {
             const bool expected =
                 std::find(c.leftOut.begin(), c.leftOut.end(), page) != c.leftOut.end();
-            EXPECT_EQ(IsPageLeftOut(page, c.flags), expected) << "flags " << c.flags << " page " << page;
+            EXPECT_EQ(IsPageLeftOut(static_cast<PageId>(page), c.flags), expected)
+                << "flags " << c.flags << " page " << page;
         }
     }
 }
 
 TEST(ShellTreesTest, OneRemovalFlagAloneKeepsTheMailGroup) {
-    EXPECT_FALSE(IsPageLeftOut(8, DMF_RemovePopMon));
-    EXPECT_FALSE(IsPageLeftOut(9, DMF_RemoveOutlookMon));
-    EXPECT_FALSE(IsPageLeftOut(26, DMF_RemovePopMon));
+    EXPECT_FALSE(IsPageLeftOut(PageId::kMailSwitch, DMF_RemovePopMon));
+    EXPECT_FALSE(IsPageLeftOut(PageId::kWarnMail, DMF_RemoveOutlookMon));
+    EXPECT_FALSE(IsPageLeftOut(PageId::kSpam, DMF_RemovePopMon));
 }
 
 }  // namespace

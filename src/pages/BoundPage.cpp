@@ -1,0 +1,48 @@
+#include "pages/BoundPage.h"
+
+CBoundPage::CBoundPage(int templateId, Applies applies)
+    : CSettingsPage(templateId), m_applies(applies) {}
+
+bool CBoundPage::OnInitDialog() {
+    BindControls();
+    m_bind.OnUserChange([this] {
+        MarkModified();
+        UpdateEnables();
+        OnUserChanged();
+    });
+    PrepareControls();
+    Load();
+    return true;
+}
+
+void CBoundPage::ShowValues(const StoreValues& values) {
+    m_bind.Show(values);
+    ShowMore(values);
+    UpdateEnables();
+}
+
+void CBoundPage::MarkModified() {
+    m_modified = 1;
+    if (m_applies == Applies::kYes) m_needApply = 1;
+}
+
+void CBoundPage::Load() {
+    ShowValues(StoreValues());
+    m_modified = 0;
+}
+
+int32_t CBoundPage::OnDefault() {
+    ShowValues(DefaultValues());
+    MarkModified();
+    return 1;
+}
+
+void CBoundPage::OnSave() {
+    m_bind.Save();
+    SaveMore();
+}
+
+int32_t CBoundPage::Validate() {
+    if (m_bind.Validate(this) != 0) return 1;
+    return ValidateMore();
+}

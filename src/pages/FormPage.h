@@ -1,0 +1,29 @@
+#pragma once
+
+// A bound page made from the form that uic generated of its template: the
+// form object builds the controls and keeps them as typed members, so that a
+// page (and its test) reaches a control by name instead of searching for its
+// id. The controls keep their numeric ids for the range operations.
+//
+//   class CMyPage : public CFormPage<Ui::Dialog107> { ... };
+//
+// Base is the page family the page belongs to (CBoundPage by default).
+
+#include "pages/BoundPage.h"
+
+template <typename Form, typename Base = CBoundPage>
+class CFormPage : public Base {
+public:
+    // The typed controls.
+    const Form& Controls() const { return m_ui; }
+
+protected:
+    using Base::Base;
+
+    bool BuildControls() override {
+        m_ui.setupUi(this);
+        return true;
+    }
+
+    Form m_ui;
+};

@@ -1,0 +1,106 @@
+#pragma once
+
+// Ties a page's controls to store values, so that a page states what each
+// control means and the binder does the rest, the same way on every page:
+//
+//   Show      sets every bound control from a source of values (the store
+//             for Load, the factory defaults for Default);
+//   Save      re-reads each bound word from the store, replaces only the
+//             bits its controls own, and writes it back; texts are written
+//             whole;
+//   Validate  runs the range and length checks of the enabled number and
+//             text fields with the common messages, in binding order, and
+//             puts the focus on the first field that fails;
+//   enable rules: a dependent control is enabled while its check box is
+//             checked and itself enabled, re-run after every Show and every
+//             user change.
+//
+// Only a user's action on a bound control reports a change; setting
+// controls from values never does.
+
+#include <QPointer>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "options/StoreValues.h"
+
+class CNumberSpin;
+class QAbstractButton;
+class QComboBox;
+class QLineEdit;
+class QWidget;
+
+// A choice among several, shown by a radio group or a combo: decode gives
+// the index to show for a word, encode the word with the bits of an index.
+// The choice owns the bits of mask and nothing else of the word.
+struct WordCodec {
+    std::function<int(uint32_t word)> decode;
+    std::function<uint32_t(uint32_t word, int index)> encode;
+    uint32_t mask = 0;
+};
+
+// Whether a check box shows its bits set or clear as checked.
+enum class BitSense { kCheckedWhenSet, kCheckedWhenClear };
+// Whether Show sets a check box that is hidden or disabled by itself: the
+// function switches keep such a box as it is.
+enum class BitShow { kAlways, kWhenAvailable };
+
+class CPageBinder {
+public:
+    CPageBinder();
+    ~CPageBinder();
+    CPageBinder(const CPageBinder&) = delete;
+    CPageBinder& operator=(const CPageBinder&) = delete;
+
+    // A check box for the bits of a word (all of them set, or all clear).
+    void Bit(QAbstractButton* box, StoreAddress word, uint32_t bits,
+             BitSense sense = BitSense::kCheckedWhenSet, BitShow show = BitShow::kAlways);
+    // A radio group: radio i stands for index i of the codec.
+    void Radios(std::vector<QAbstractButton*> radios, StoreAddress word, WordCodec codec);
+    // A combo: item i stands for index i of the codec.
+    void Combo(QComboBox* combo, StoreAddress word, WordCodec codec);
+    // A number field (the spin's buddy) for a whole word, within low..high.
+    void Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high);
+    // A text field for a store text of at most maxLength characters.
+    void Text(QLineEdit* edit, StoreAddress text, int32_t maxLength);
+    // Bits that the page writes itself (a hook, not a control); declared so
+    // that the page's share of the store is known in one place.
+    void Owns(StoreAddress word, uint32_t bits);
+
+    // dependents are enabled while box is checked and enabled itself.
+    void EnableWhen(QAbstractButton* box, std::vector<QWidget*> dependents);
+
+    void Show(const StoreValues& values) const;
+    void Save() const;
+    // 0 when every field passes; otherwise the first failure has been told
+    // to the user (owner is the message's parent) and 1 is returned.
+    int32_t Validate(QWidget* owner) const;
+    void ApplyEnableRules() const;
+
+    // changed runs after every user action on a bound control.
+    void OnUserChange(std::function<void()> changed);
+
+    // The bits of each word that the page owns: its controls' and the
+    // declared ones.
+    std::map<StoreAddress, uint32_t> OwnedWords() const;
+    // The texts its fields own.
+    std::vector<StoreAddress> OwnedTexts() const;
+
+    class Binding;
+
+private:
+    struct EnableRule {
+        QPointer<QAbstractButton> box;
+        std::vector<QPointer<QWidget>> dependents;
+    };
+
+    void Add(std::unique_ptr<Binding> binding);
+
+    std::vector<std::unique_ptr<Binding>> m_bindings;
+    std::vector<EnableRule> m_enableRules;
+    std::map<StoreAddress, uint32_t> m_declared;
+    std::function<void()> m_changed;
+};

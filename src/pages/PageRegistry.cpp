@@ -1,0 +1,88 @@
+#include "pages/PageRegistry.h"
+
+#include "pages/scan/FeatureSwitchPage.h"
+#include "pages/scan/MailSwitchPage.h"
+
+namespace {
+
+using enum PageId;
+
+template <typename Page>
+std::unique_ptr<CSettingsPage> Make() {
+    return std::make_unique<Page>();
+}
+
+// A built page: its template is the one its class is made from.
+template <typename Page>
+constexpr PageRow Built(PageId id, uint32_t titleId) {
+    return {id, Page::kTemplateId, titleId, &Make<Page>};
+}
+
+constexpr PageRow Unbuilt(PageId id, int templateId, uint32_t titleId) {
+    return {id, templateId, titleId, nullptr};
+}
+
+constexpr std::array<PageRow, kPageCount> kRows = {{
+    Built<CFeatureSwitchPage>(kFeatureSwitch, 17),
+    Unbuilt(kSystemScan, 111, 4),
+    Unbuilt(kSystemScanSpare, 111, 4),
+    Unbuilt(kScreenSaverScan, 114, 7),
+    Unbuilt(kSchedule, 113, 6),
+    Unbuilt(kSystemMonitor, 115, 8),
+    Unbuilt(kInternetMonitorSpare, 117, 13),
+    Unbuilt(kInternetMonitor, 117, 16),
+    Built<CMailSwitchPage>(kMailSwitch, 18),
+    Unbuilt(kWarnMail, 1015, 19),
+    Unbuilt(kPop3Config, 1011, 9),
+    Unbuilt(kPop3Scan, 116, 15),
+    Unbuilt(kOutlookMonitor, 119, 11),
+    Unbuilt(kOutlookScan, 118, 10),
+    Unbuilt(kOutlookMonitorSpare, 119, 11),
+    Unbuilt(kOtherConfig, 107, 20),
+    Unbuilt(kExclude, 109, 2),
+    Unbuilt(kSecurity, 108, 14),
+    Unbuilt(kPolicy, 110, 3),
+    Unbuilt(kWizardScan, 1003, 0),
+    Unbuilt(kWizardFeature, 1004, 0),
+    Unbuilt(kScheduleTime, 1008, 0),
+    Unbuilt(kScheduleScan, 1010, 0),
+    Unbuilt(kEasyConfig, 1030, 1),
+    Unbuilt(kMessenger, 1032, 21),
+    Unbuilt(kStartup, 1031, 22),
+    Unbuilt(kSpam, 1033, 23),
+    Unbuilt(kCompressTab, 1036, 24),
+    Unbuilt(kFileTypeTab, 1035, 25),
+    Unbuilt(kScanMethodTab, 1039, 27),
+    Unbuilt(kScanOptionTab, 1037, 26),
+    Unbuilt(kHarmfulTab, 1040, 28),
+    Unbuilt(kAlarmMail, 1041, 57358),
+    Unbuilt(kMailAccount, 1049, 57359),
+    Unbuilt(kBlockNetwork, 1045, 57362),
+    Unbuilt(kPortBlock, 1048, 57360),
+    Unbuilt(kVirusMailTemplate, 1051, 57363),
+    Unbuilt(kUpdateFailureMailTemplate, 1052, 57364),
+    Unbuilt(kMonitorMailTemplate, 1053, 57365),
+    Unbuilt(kUpdateSuccessMailTemplate, 1054, 57370),
+    Unbuilt(kExemptPorts, 1055, 57413),
+}};
+
+constexpr bool InIdOrder(const std::array<PageRow, kPageCount>& rows) {
+    for (size_t i = 0; i < rows.size(); ++i) {
+        if (ToInt(rows[i].id) != static_cast<int32_t>(i)) return false;
+    }
+    return true;
+}
+static_assert(InIdOrder(kRows), "page rows must stand in page id order");
+
+constexpr int kScheduleScanTemplateNT = 1016;
+
+}  // namespace
+
+const std::array<PageRow, kPageCount>& PageRows() { return kRows; }
+
+const PageRow& PageRowOf(PageId id) { return kRows[static_cast<size_t>(ToInt(id))]; }
+
+int PageTemplate(PageId id, bool isNT) {
+    if (id == kScheduleScan && isNT) return kScheduleScanTemplateNT;
+    return PageRowOf(id).templateId;
+}

@@ -1,0 +1,176 @@
+// The exported entry points of libQ9CfgUL.so (declared in include/q9cfgul.h).
+// No exception crosses this border: a failure inside becomes the result the
+// caller would get for a request that could not be carried out.
+#include <cerrno>
+#include <exception>
+
+#include "Q9CfgE.h"
+#include "options/StoreKeys.h"
+#include "portblock/RuleFile.h"
+#include "q9cfgul.h"
+#include "session/DiagLog.h"
+#include "session/EditionFlags.h"
+#include "session/PageId.h"
+#include "session/ProcessState.h"
+#include "session/SiblingLibs.h"
+#include "shell/CfgApp.h"
+#include "shell/ConfigWindow.h"
+#include "shell/ModeRunners.h"
+#include "shell/Session.h"
+#include "text/MessageKinds.h"
+#include "text/MessageService.h"
+#include "text/StringTable.h"
+#include "text/TextFormat.h"
+
+namespace {
+
+template <typename Body>
+int32_t Guarded(int32_t failure, Body body) {
+    try {
+        return body();
+    } catch (const std::exception& error) {
+        g_Log.Write("unexpected failure: %s", error.what());
+    } catch (...) {
+        g_Log.Write("unexpected failure");
+    }
+    return failure;
+}
+
+constexpr uint32_t kStyleNamedFile = 257;
+
+// Step 3: the privilege gate. False after the refusal was said (unless
+// silent).
+bool PassesPrivilegeGate(uint32_t flags) {
+    errno = 0;
+    if (g_Siblings.HasEnoughPrivilege() != 0) return true;
+    const int error = errno;
+    if (!(flags & DMF_Silent)) {
+        ShowMessage(nullptr, FormatResource(LoadString(strings::kNotAuthorized), error),
+                    LoadString(strings::kWarningCaption), msg::kOk | msg::kIconWarning);
+    }
+    return false;
+}
+
+// Step 6: the product password, unless the caller skips it.
+bool PassesAuthentication(uint64_t parent, uint32_t flags) {
+    if (flags & (DMF_NoAuthenticate | DMF_Silent)) return true;
+    if (Q9CfgE_GetAuthenticateDlg(0) != 0) return false;  // a prompt is open already
+    const std::string caption = LoadString(strings::kApplicationName);
+    return Q9CfgE_AuthenticateEx(parent, 0, caption.c_str()) != 0;
+}
+
+// Step 8: the numbers a session starts from.
+void StartSessionState() {
+    g_nProtectLevel = Q9CfgE_GetDWEx(CES_General, CEK_ProtectLevel);
+    g_nPop3Port = Q9CfgE_GetDWEx(CES_Pop3, CEK_Pop3Port);
+    g_bLevelApplied = 0;
+    g_bLevelPending = 0;
+    g_bScheduleDirty = 0;
+    g_Siblings.MarkPending(0, 0xFFFFFFFF);
+}
+
+// A configuration window open in some process is brought to the front. A
+// word that no window answers for was left by a process that ended: it is
+// cleared, so that a crash does not lock the user out of the dialog.
+bool ConfigWindowIsOpen() {
+    const uint32_t window = OpenConfigWindow();
+    if (window == 0) return false;
+    if (BringConfigWindowForward(window)) return true;
+    ClearConfigWindow();
+    return false;
+}
+
+int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOut,
+                      const char* path1, const char* path2) {
+    g_bInWizard = 0;
+    if (flags & DMF_Silent) {
+        RunSilentPolicy(path1, path2, (flags & DMF_PolicyKeepMonitor) ? 0 : 1);
+        Q9CfgE_SetDWEx(CES_General, CEK_ProtectLevel, g_nProtectLevel);
+        return 1;
+    }
+    if (ConfigWindowIsOpen()) return 2;
+    int32_t lastPage = page;
+    const int32_t result = RunConfigDialog(parent, flags, page, &lastPage);
+    ClearConfigWindow();
+    if (pageInOut) *pageInOut = lastPage;
+    return result;
+}
+
+int32_t RunWizardMode(uint64_t parent, uint32_t flags) {
+    g_bInWizard = 1;
+    if (flags & DMF_Silent) {
+        RunSilentWizard(flags);
+        return 1;
+    }
+    return RunWizard(parent, flags);
+}
+
+int32_t RunSinglePageMode(uint64_t parent, uint32_t flags, int32_t page) {
+    g_bInWizard = 0;
+    if (ConfigWindowIsOpen()) return 2;
+    const int32_t result = RunSinglePage(parent, flags, page);
+    ClearConfigWindow();
+    return result;
+}
+
+// Steps 7 to 11: the session proper, after the gates were passed.
+int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOut,
+                const char* path1, const char* path2) {
+    StartSessionState();
+    g_hPop3Accounts = g_Siblings.P3Create();
+    if (g_hPop3Accounts) g_Siblings.P3Load(g_hPop3Accounts);
+
+    int32_t result = -1;
+    switch (flags & DMF_ModeMask) {
+        case DMF_ModeDialog:
+            result = RunDialogMode(parent, flags, page, pageInOut, path1, path2);
+            break;
+        case DMF_ModeWizard: result = RunWizardMode(parent, flags); break;
+        case DMF_ModeSinglePage: result = RunSinglePageMode(parent, flags, page); break;
+        default: break;
+    }
+    // The variable keeps its stale value, as the pages expect nothing after.
+    if (g_hPop3Accounts) g_Siblings.P3Free(g_hPop3Accounts);
+    return result;
+}
+
+int32_t DoModal(uint64_t parent, uint32_t flags, int32_t* pageInOut, const char* path1,
+                const char* path2) {
+    const CSession session((flags & DMF_Silent) ? CSession::kSilent : CSession::kWithUserInterface);
+    const int32_t page = pageInOut ? *pageInOut : 0;
+    if (page < 0 || page >= kPageCount) return -1;
+    if (!PassesPrivilegeGate(flags)) return 2;
+    flags = AddEditionFlags(flags);
+    if (path1 && *path1) Q9CfgE_SetStyleEx(kStyleNamedFile, path1, 0);
+    if (!PassesAuthentication(parent, flags)) return 2;
+    return RunMode(parent, flags, page, pageInOut, path1, path2);
+}
+
+}  // namespace
+
+extern "C" {
+
+Q9CFGUL_API int32_t Q9CfgUL_DoModal(uint64_t parent, uint32_t flags, int32_t* pageInOut,
+                                    const char* path1, const char* path2) {
+    return Guarded(-1, [&] { return DoModal(parent, flags, pageInOut, path1, path2); });
+}
+
+Q9CFGUL_API int32_t Q9CfgUL_MsgBox(int32_t kind, uint32_t value) {
+    return Guarded(1, [&] {
+        const CSession session(CSession::kWithUserInterface);
+        const FixedMessage message = FixedMessageFor(kind, value);
+        ShowMessage(nullptr, message.text, message.caption, msg::kOk);
+        return int32_t{1};
+    });
+}
+
+Q9CFGUL_API int32_t Q9CfgUL_Report(void) { return 1; }
+
+Q9CFGUL_API int32_t WriteGeneralRuleFile(const void* records, int32_t count) {
+    return Guarded(0, [&] {
+        CCfgApp::InitInstance();
+        return CRuleFile(g_szModuleDir).WriteUserRules(records, count);
+    });
+}
+
+}  // extern "C"
