@@ -7,6 +7,7 @@ bool CBoundPage::OnInitDialog() {
     BindControls();
     m_bind.OnUserChange([this] {
         MarkModified();
+        m_bind.ApplyEnableRules();
         UpdateEnables();
         OnUserChanged();
     });

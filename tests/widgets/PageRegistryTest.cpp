@@ -1,0 +1,166 @@
+// The page registry: every built page is made from the form its row names,
+// every form is a page's or a shell's, and every registered page keeps to
+// its own bits of the store, in every edition.
+
+#include <QWidget>
+#include <filesystem>
+#include <map>
+#include <ostream>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "SwitchPageTest.h"
+#include "pages/BoundPage.h"
+#include "pages/PageRegistry.h"
+#include "q9cfgul.h"
+#include "session/StoreCommit.h"
+
+namespace {
+
+std::vector<PageRow> BuiltRows() {
+    std::vector<PageRow> rows;
+    for (const PageRow& row : PageRows()) {
+        if (row.make != nullptr) rows.push_back(row);
+    }
+    return rows;
+}
+
+// The template ids of the forms in the sources.
+std::set<int> FormTemplates() {
+    static const std::regex kFormName(R"(Dialog(\d+)\.ui)");
+    std::set<int> ids;
+    const auto folder = std::filesystem::path(Q9_SOURCE_DIR) / "src/resources/forms";
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        std::smatch match;
+        const std::string name = entry.path().filename();
+        if (std::regex_match(name, match, kFormName)) ids.insert(std::stoi(match[1]));
+    }
+    return ids;
+}
+
+class PageRegistryTest : public SwitchPageTest {};
+
+TEST_F(PageRegistryTest, EveryBuiltPageIsMadeFromTheFormOfItsRow) {
+    for (const PageRow& row : BuiltRows()) {
+        std::unique_ptr<CSettingsPage> page = row.make();
+        ASSERT_NE(page, nullptr) << ToInt(row.id);
+        ASSERT_TRUE(page->Create(&m_parent)) << ToInt(row.id);
+        EXPECT_EQ(page->objectName().toStdString(), "Dialog" + std::to_string(row.templateId))
+            << "page " << ToInt(row.id);
+    }
+}
+
+TEST_F(PageRegistryTest, EveryFormBelongsToABuiltPageOrAShell) {
+    std::set<int> used(kShellTemplates.begin(), kShellTemplates.end());
+    for (const PageRow& row : BuiltRows()) used.insert(row.templateId);
+    for (int form : FormTemplates()) EXPECT_EQ(used.count(form), 1U) << "Dialog" << form << ".ui";
+}
+
+TEST_F(PageRegistryTest, EveryBuiltRowAndShellHasItsForm) {
+    const std::set<int> forms = FormTemplates();
+    for (const PageRow& row : BuiltRows())
+        EXPECT_EQ(forms.count(row.templateId), 1U) << row.templateId;
+    for (int shell : kShellTemplates) EXPECT_EQ(forms.count(shell), 1U) << shell;
+}
+
+// --- Bit discipline ---------------------------------------------------------
+
+constexpr uint32_t kLastSection = 17;
+constexpr uint32_t kLastKey = 68;
+
+using StoreWords = std::map<StoreAddress, uint32_t>;
+
+struct Discipline {
+    PageRow row;
+    uint32_t flags;
+    uint32_t pattern;
+};
+
+void PrintTo(const Discipline& c, std::ostream* out) {
+    *out << "page " << ToInt(c.row.id) << ", flags " << c.flags << ", words " << c.pattern;
+}
+
+std::string NameOf(const testing::TestParamInfo<Discipline>& info) {
+    return "Page" + std::to_string(ToInt(info.param.row.id)) + "Flags" +
+           std::to_string(info.param.flags) + (info.param.pattern == 0 ? "Zeros" : "Ones");
+}
+
+std::vector<Discipline> Disciplines() {
+    std::vector<Discipline> cases;
+    for (const PageRow& row : BuiltRows()) {
+        for (uint32_t flags : {0U, uint32_t{DMF_IsLight}, uint32_t{DMF_Master},
+                               uint32_t{DMF_RemovePopMon}, uint32_t{DMF_RemoveOutlookMon}}) {
+            for (uint32_t pattern : {0U, 0xFFFFFFFFU}) cases.push_back({row, flags, pattern});
+        }
+    }
+    return cases;
+}
+
+class PageDisciplineTest : public SwitchPageTest, public testing::WithParamInterface<Discipline> {
+protected:
+    static void FillStore(uint32_t pattern) {
+        for (uint32_t section = 0; section <= kLastSection; ++section) {
+            for (uint32_t key = 0; key <= kLastKey; ++key) SetWord(section, key, pattern);
+        }
+    }
+
+    static StoreWords StoreNow() {
+        StoreWords words;
+        for (uint32_t section = 0; section <= kLastSection; ++section) {
+            for (uint32_t key = 0; key <= kLastKey; ++key)
+                words[{section, key}] = Word(section, key);
+        }
+        return words;
+    }
+
+    // Every bit that changed outside the page's own, as "section/key: bits".
+    static std::vector<std::string> StrayChanges(const StoreWords& before, const StoreWords& after,
+                                                 const std::map<StoreAddress, uint32_t>& owned) {
+        std::vector<std::string> stray;
+        for (const auto& [address, word] : before) {
+            const auto it = owned.find(address);
+            const uint32_t mine = it == owned.end() ? 0 : it->second;
+            const uint32_t changed = (word ^ after.at(address)) & ~mine;
+            if (changed != 0) {
+                stray.push_back(std::to_string(address.section) + "/" +
+                                std::to_string(address.key) + ": " + std::to_string(changed));
+            }
+        }
+        return stray;
+    }
+};
+
+// Loaded from all-zero or all-one words, set to the factory defaults (whose
+// words differ from both) and saved, a page changes its own bits only.
+TEST_P(PageDisciplineTest, SaveChangesOnlyThePagesOwnBits) {
+    const Discipline& c = GetParam();
+    WriteDefaults(
+        "[CES_Switch]\nCEK_Switch_Scan=dword:5a\nCEK_Switch_ScanMail=dword:5000\n"
+        "[CES_Messenger]\nCEK_MessengerSelect=dword:3\n");
+    SetUnregistrable({});
+    // Pages work on the store's working copy, as in a session.
+    BeginStoreEdit();
+    FillStore(c.pattern);
+    const StoreWords before = StoreNow();
+
+    std::unique_ptr<CSettingsPage> page = c.row.make();
+    page->SetFlags(c.flags);
+    ASSERT_TRUE(page->Create(&m_parent));
+    auto* bound = dynamic_cast<CBoundPage*>(page.get());
+    ASSERT_NE(bound, nullptr) << "a registered page is a bound page";
+    page->Load();
+    page->Save();
+    page->OnDefault();
+    page->Save();
+
+    for (const std::string& stray : StrayChanges(before, StoreNow(), bound->Binder().OwnedWords()))
+        ADD_FAILURE() << "bits changed that the page does not own: " << stray;
+    DropWorkingCopy();
+}
+
+INSTANTIATE_TEST_SUITE_P(RegisteredPages, PageDisciplineTest, testing::ValuesIn(Disciplines()),
+                         NameOf);
+
+}  // namespace
