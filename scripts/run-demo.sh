@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
-# Builds everything, lays out the demo installation in build/demo and runs the
-# main job on it. Nothing outside build/demo is touched: the libraries keep
-# their files in their own directory, the registry stand-in in build/demo/registry.
+# Builds what the demo installation needs (the library, the sibling
+# libraries, the programs, the translations and the picture tool; no tests,
+# no benchmarks), lays it out in build/demo and runs the main job on it.
+# Nothing outside build/demo is touched: the libraries keep their files in
+# their own directory, the registry stand-in in build/demo/registry.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 cd "$root"
 
 bash scripts/install-deps.sh
-bash scripts/build.sh build
+bash scripts/build.sh build -- --target demo
 
 demo="$root/build/demo"
 unset Q9_INSTALL_DIR Q9_REGISTRY_DIR Q9_HOST_VERSION Q9_CONFIG_WINDOW_WORD

@@ -13,7 +13,7 @@
 
 namespace {
 
-QImage Grab(QWidget& widget) {
+QImage GrabWithAlpha(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
@@ -24,7 +24,7 @@ protected:
     QImage Expected(int index) {
         CIconStatic blank;
         blank.setFixedSize(CIconStatic::kSize, CIconStatic::kSize);
-        QImage image = Grab(blank);
+        QImage image = GrabWithAlpha(blank);
         QPainter painter(&image);
         painter.drawPixmap(0, 0, icons.Pixmap(index));
         return image;
@@ -46,16 +46,16 @@ TEST_F(IconStaticTest, SetImageMakesItFortyTwoByFortyTwo) {
 
 TEST_F(IconStaticTest, DrawsTheChosenPictureAtTheOrigin) {
     icon.SetImage(&icons, 13);
-    EXPECT_EQ(Grab(icon), Expected(13));
+    EXPECT_EQ(GrabWithAlpha(icon), Expected(13));
 }
 
 TEST_F(IconStaticTest, TransparentPixelsShowTheBackground) {
     icon.SetImage(&icons, 13);
-    const QImage shown = Grab(icon);
+    const QImage shown = GrabWithAlpha(icon);
     const QImage picture = icons.Pixmap(13).toImage().convertToFormat(QImage::Format_ARGB32);
     CIconStatic blank;
     blank.setFixedSize(42, 42);
-    const QRgb background = Grab(blank).pixel(0, 0);
+    const QRgb background = GrabWithAlpha(blank).pixel(0, 0);
     int transparent = 0;
     int drawn = 0;
     for (int y = 0; y < 42; ++y) {
@@ -75,9 +75,9 @@ TEST_F(IconStaticTest, TransparentPixelsShowTheBackground) {
 
 TEST_F(IconStaticTest, ChangesWhenAnotherPictureIsSet) {
     icon.SetImage(&icons, 13);
-    const QImage before = Grab(icon);
+    const QImage before = GrabWithAlpha(icon);
     icon.SetImage(&icons, 14);
-    const QImage after = Grab(icon);
+    const QImage after = GrabWithAlpha(icon);
     EXPECT_NE(before, after);
     EXPECT_EQ(after, Expected(14));
     EXPECT_EQ(icon.Index(), 14);
@@ -86,7 +86,7 @@ TEST_F(IconStaticTest, ChangesWhenAnotherPictureIsSet) {
 TEST_F(IconStaticTest, DrawsTheListItIsGiven) {
     const ImageList tree = ImageList::TreeImages();
     icon.SetImage(&tree, 3);
-    const QImage shown = Grab(icon);
+    const QImage shown = GrabWithAlpha(icon);
     const QImage picture = tree.Pixmap(3).toImage().convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < 16; ++y) {
         for (int x = 0; x < 16; ++x) {
@@ -99,15 +99,15 @@ TEST_F(IconStaticTest, DrawsTheListItIsGiven) {
 
 TEST_F(IconStaticTest, IndexOutOfRangeDrawsNothing) {
     icon.SetImage(&icons, icons.Count());
-    EXPECT_EQ(Grab(icon), Expected(-1));
+    EXPECT_EQ(GrabWithAlpha(icon), Expected(-1));
 }
 
 TEST_F(IconStaticTest, TextHasNoEffect) {
     icon.SetImage(&icons, 2);
-    const QImage before = Grab(icon);
+    const QImage before = GrabWithAlpha(icon);
     icon.setProperty("text", QStringLiteral("1021"));
     icon.setWindowTitle(QStringLiteral("1021"));
-    EXPECT_EQ(Grab(icon), before);
+    EXPECT_EQ(GrabWithAlpha(icon), before);
 }
 
 TEST_F(IconStaticTest, TakesNoKeyboardFocus) {

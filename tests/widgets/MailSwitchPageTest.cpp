@@ -19,14 +19,14 @@ constexpr int kPop3 = 1009;
 constexpr int kOutlookScan = 1121;
 constexpr int kOutlookMonitor = 1070;
 
-struct Box {
+struct MailBox {
     int id;
     int32_t code;
     uint32_t bit;
 };
 
 // In the template's order.
-constexpr std::array<Box, 3> kBoxes = {{
+constexpr std::array<MailBox, 3> kMailBoxes = {{
     {kPop3, 64, 0x1000},
     {kOutlookScan, 176, 0x4000},
     {kOutlookMonitor, 192, 0x8000},
@@ -59,18 +59,18 @@ TEST_F(MailSwitchPageTest, TemplateHasEveryBoxWithItsCaptionAndADescriptionAfter
     const std::array<const char*, 3> captions = {"POP3 Monitoring", "Outlook Scan",
                                                  "Outlook Monitoring"};
     CMailSwitchPage* page = Make();
-    for (size_t i = 0; i < kBoxes.size(); ++i) {
-        EXPECT_EQ(ctl::GetText(page, kBoxes[i].id), captions[i]);
-        QWidget* description = ControlAfter(page, kBoxes[i].id);
-        ASSERT_NE(description, nullptr) << kBoxes[i].id;
-        EXPECT_EQ(ctl::IdOf(description), ctl::kNoId) << kBoxes[i].id;
+    for (size_t i = 0; i < kMailBoxes.size(); ++i) {
+        EXPECT_EQ(ctl::GetText(page, kMailBoxes[i].id), captions[i]);
+        QWidget* description = ControlAfter(page, kMailBoxes[i].id);
+        ASSERT_NE(description, nullptr) << kMailBoxes[i].id;
+        EXPECT_EQ(ctl::IdOf(description), ctl::kNoId) << kMailBoxes[i].id;
     }
     EXPECT_EQ(page->size(), QSize(484, 390));
 }
 
 TEST_F(MailSwitchPageTest, NormalEditionShowsEveryRowEnabled) {
     CMailSwitchPage* page = Make();
-    for (const Box& box : kBoxes) {
+    for (const MailBox& box : kMailBoxes) {
         EXPECT_TRUE(IsShown(page, box.id)) << box.id;
         EXPECT_TRUE(IsEnabled(page, box.id)) << box.id;
         EXPECT_FALSE(ControlAfter(page, box.id)->isHidden()) << box.id;
@@ -171,7 +171,7 @@ TEST_F(MailSwitchPageTest, LoadLeavesDisabledAndHiddenBoxesAlone) {
 // --- Clicks and Apply -------------------------------------------------------
 
 TEST_F(MailSwitchPageTest, ClickSetsModifiedAndNeedApplyWithoutAQuestion) {
-    for (const Box& box : kBoxes) {
+    for (const MailBox& box : kMailBoxes) {
         CMailSwitchPage* page = Make();
         Click(page, box.id);
         EXPECT_TRUE(IsChecked(page, box.id)) << box.id;
@@ -183,7 +183,7 @@ TEST_F(MailSwitchPageTest, ClickSetsModifiedAndNeedApplyWithoutAQuestion) {
 }
 
 TEST_F(MailSwitchPageTest, ApplySwitchesOnlyTheClickedFunctions) {
-    for (const Box& box : kBoxes) {
+    for (const MailBox& box : kMailBoxes) {
         CMailSwitchPage* page = Make();
         Click(page, box.id);
         EXPECT_EQ(SaveAndApply(page), std::vector<std::string>{Registered(box.code)}) << box.id;
@@ -193,7 +193,7 @@ TEST_F(MailSwitchPageTest, ApplySwitchesOnlyTheClickedFunctions) {
 
 TEST_F(MailSwitchPageTest, ApplySwitchesInOrderByTheStoredWord) {
     CMailSwitchPage* page = Make();
-    for (const Box& box : kBoxes) Click(page, box.id);
+    for (const MailBox& box : kMailBoxes) Click(page, box.id);
     page->Save();
     SetWord(CES_Switch, CEK_Switch_ScanMail, 0x8000);
     ClearJournal();
@@ -213,14 +213,14 @@ TEST_F(MailSwitchPageTest, UntouchedPageAppliesNothing) {
 
 TEST_F(MailSwitchPageTest, ApplyLeavesPop3AloneWithoutPop3) {
     CMailSwitchPage* page = Make(DMF_RemovePopMon);
-    for (const Box& box : kBoxes) Click(page, box.id);
+    for (const MailBox& box : kMailBoxes) Click(page, box.id);
     const std::vector<std::string> expected = {Registered(176), Registered(192)};
     EXPECT_EQ(SaveAndApply(page), expected);
 }
 
 TEST_F(MailSwitchPageTest, ApplyLeavesOutlookAloneWithoutOutlook) {
     CMailSwitchPage* page = Make(DMF_RemoveOutlookMon);
-    for (const Box& box : kBoxes) Click(page, box.id);
+    for (const MailBox& box : kMailBoxes) Click(page, box.id);
     EXPECT_EQ(SaveAndApply(page), std::vector<std::string>{Registered(64)});
 }
 

@@ -4,11 +4,11 @@
 #include "options/ScanBits.h"
 
 namespace {
-constexpr uint32_t kOthers = 0x8000000Fu;
+constexpr uint32_t kOtherMonitorBits = 0x8000000Fu;
 }  // namespace
 
 TEST(BlockMethodTest, NoneOfTheBitsIsDoNotBlock) {
-    EXPECT_EQ(BlockMethodOf(kOthers), BlockMethod::DoNotBlock);
+    EXPECT_EQ(BlockMethodOf(kOtherMonitorBits), BlockMethod::DoNotBlock);
 }
 
 TEST(BlockMethodTest, BitsAreTestedInTheOrder29To28To30) {
@@ -18,10 +18,10 @@ TEST(BlockMethodTest, BitsAreTestedInTheOrder29To28To30) {
 }
 
 TEST(BlockMethodTest, CollectLeavesOneMethodBitAndKeepsTheRest) {
-    EXPECT_EQ(CollectBlockMethod(kMonitorMethods | kOthers, BlockMethod::Delete),
-              kMonitorDelete | kOthers);
-    EXPECT_EQ(CollectBlockMethod(kOthers, BlockMethod::ChangeExtension),
-              kMonitorChangeExtension | kOthers);
+    EXPECT_EQ(CollectBlockMethod(kMonitorMethods | kOtherMonitorBits, BlockMethod::Delete),
+              kMonitorDelete | kOtherMonitorBits);
+    EXPECT_EQ(CollectBlockMethod(kOtherMonitorBits, BlockMethod::ChangeExtension),
+              kMonitorChangeExtension | kOtherMonitorBits);
     EXPECT_EQ(CollectBlockMethod(kMonitorDelete, BlockMethod::Block), kMonitorBlock);
-    EXPECT_EQ(CollectBlockMethod(kMonitorMethods | kOthers, BlockMethod::DoNotBlock), kOthers);
+    EXPECT_EQ(CollectBlockMethod(kMonitorMethods | kOtherMonitorBits, BlockMethod::DoNotBlock), kOtherMonitorBits);
 }

@@ -5,20 +5,20 @@
 
 namespace {
 // Bits the file types never touch.
-constexpr uint32_t kOthers = kScanCloseView | kScanCompressed | kScanCarried16 | 0x80000000u;
+constexpr uint32_t kOtherScanBits = kScanCloseView | kScanCompressed | kScanCarried16 | 0x80000000u;
 }  // namespace
 
 TEST(FileTypeRadioTest, AllFilesExactlyWhenBit8IsSet) {
     EXPECT_EQ(FileTypeRadioOf(kScanAllFiles), kFileTypesAll);
     EXPECT_EQ(FileTypeRadioOf(kScanAllFiles | kScanCustomized), kFileTypesAll);
     EXPECT_EQ(FileTypeRadioOf(0), kFileTypesExecutable);
-    EXPECT_EQ(FileTypeRadioOf(kScanTypeKinds | kOthers), kFileTypesExecutable);
+    EXPECT_EQ(FileTypeRadioOf(kScanTypeKinds | kOtherScanBits), kFileTypesExecutable);
 }
 
 TEST(FileTypeRadioTest, AllFilesSetsBit8AndClearsTheDefaultKinds) {
     EXPECT_EQ(
-        CollectFileTypes(kScanScripts | kScanExecutables | kScanMacros | kOthers, kFileTypesAll),
-        kScanAllFiles | kOthers);
+        CollectFileTypes(kScanScripts | kScanExecutables | kScanMacros | kOtherScanBits, kFileTypesAll),
+        kScanAllFiles | kOtherScanBits);
 }
 
 TEST(FileTypeRadioTest, AllFilesKeepsCustomized) {
@@ -29,14 +29,14 @@ TEST(FileTypeRadioTest, AllFilesKeepsCustomized) {
 }
 
 TEST(FileTypeRadioTest, ExecutableFilesWithoutAnyKindGetsTheDefaultKinds) {
-    EXPECT_EQ(CollectFileTypes(kOthers, kFileTypesExecutable), kOthers | 0x680u);
-    EXPECT_EQ(CollectFileTypes(kScanAllFiles | kOthers, kFileTypesExecutable), kOthers | 0x680u);
+    EXPECT_EQ(CollectFileTypes(kOtherScanBits, kFileTypesExecutable), kOtherScanBits | 0x680u);
+    EXPECT_EQ(CollectFileTypes(kScanAllFiles | kOtherScanBits, kFileTypesExecutable), kOtherScanBits | 0x680u);
 }
 
 TEST(FileTypeRadioTest, ExecutableFilesKeepsTheKindsItHas) {
     EXPECT_EQ(CollectFileTypes(kScanAllFiles | kScanMacros, kFileTypesExecutable), kScanMacros);
-    EXPECT_EQ(CollectFileTypes(kScanCustomized | kOthers, kFileTypesExecutable),
-              kScanCustomized | kOthers);
+    EXPECT_EQ(CollectFileTypes(kScanCustomized | kOtherScanBits, kFileTypesExecutable),
+              kScanCustomized | kOtherScanBits);
 }
 
 TEST(FileTypeBoxesTest, AllFilesLoadsAloneWhateverElseIsSet) {
@@ -54,13 +54,13 @@ TEST(FileTypeBoxesTest, WithoutAllFilesEachBoxFollowsItsBit) {
 
 TEST(FileTypeBoxesTest, AllFilesClearsTheOtherFourIncludingCustomized) {
     const FileTypeBoxes boxes{true, true, true, true, true};
-    EXPECT_EQ(CollectFileTypes(kScanTypeKinds | kOthers, boxes), kScanAllFiles | kOthers);
+    EXPECT_EQ(CollectFileTypes(kScanTypeKinds | kOtherScanBits, boxes), kScanAllFiles | kOtherScanBits);
 }
 
 TEST(FileTypeBoxesTest, WithoutAllFilesEachBitFollowsItsBox) {
-    EXPECT_EQ(CollectFileTypes(kScanAllFiles | kScanMacros | kOthers,
+    EXPECT_EQ(CollectFileTypes(kScanAllFiles | kScanMacros | kOtherScanBits,
                                FileTypeBoxes{false, true, false, true, true}),
-              kScanExecutables | kScanScripts | kScanCustomized | kOthers);
+              kScanExecutables | kScanScripts | kScanCustomized | kOtherScanBits);
     // The boxes alone decide: no default kinds are added.
     EXPECT_EQ(CollectFileTypes(kScanTypeKinds, FileTypeBoxes{}), 0u);
 }

@@ -5,19 +5,19 @@
 
 namespace {
 // Bits no combo and no backup box owns.
-constexpr uint32_t kOthers = kPolicyRecompress | 0x8000000u | 0x80000000u | 0x10u;
+constexpr uint32_t kOtherPolicyBits = kPolicyRecompress | 0x8000000u | 0x80000000u | 0x10u;
 }  // namespace
 
 TEST(BackupTest, OnWhenAnyOfTheThreeBitsIsSet) {
-    EXPECT_FALSE(BackupOf(kOthers));
+    EXPECT_FALSE(BackupOf(kOtherPolicyBits));
     EXPECT_TRUE(BackupOf(0x1u));
     EXPECT_TRUE(BackupOf(0x100u));
     EXPECT_TRUE(BackupOf(0x10000u));
 }
 
 TEST(BackupTest, CollectSetsAndClearsTheThreeTogether) {
-    EXPECT_EQ(CollectBackup(0x100u | kOthers, true), 0x10101u | kOthers);
-    EXPECT_EQ(CollectBackup(0x10001u | kOthers, false), kOthers);
+    EXPECT_EQ(CollectBackup(0x100u | kOtherPolicyBits, true), 0x10101u | kOtherPolicyBits);
+    EXPECT_EQ(CollectBackup(0x10001u | kOtherPolicyBits, false), kOtherPolicyBits);
 }
 
 TEST(RepairCombosTest, RepairableIsTestedRepairFirst) {
@@ -28,16 +28,16 @@ TEST(RepairCombosTest, RepairableIsTestedRepairFirst) {
 }
 
 TEST(RepairCombosTest, RepairAndDeleteSavesWithBit1Only) {
-    const uint32_t policy = kPolicyRepair | kPolicyDelete | kOthers;
-    EXPECT_EQ(CollectRepairCombos(policy, RepairCombosOf(policy)), kPolicyRepair | kOthers);
+    const uint32_t policy = kPolicyRepair | kPolicyDelete | kOtherPolicyBits;
+    EXPECT_EQ(CollectRepairCombos(policy, RepairCombosOf(policy)), kPolicyRepair | kOtherPolicyBits);
 }
 
 TEST(RepairCombosTest, RepairableChoicesAreExclusive) {
     RepairCombos combos;
     combos.repairable = RepairableAction::Delete;
-    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kOthers, combos), kPolicyDelete | kOthers);
+    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kOtherPolicyBits, combos), kPolicyDelete | kOtherPolicyBits);
     combos.repairable = RepairableAction::LeaveAsIs;
-    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kPolicyDelete | kOthers, combos), kOthers);
+    EXPECT_EQ(CollectRepairCombos(kPolicyRepair | kPolicyDelete | kOtherPolicyBits, combos), kOtherPolicyBits);
 }
 
 TEST(RepairCombosTest, UnrepairableAndCompressedFollowTheirBits) {
@@ -48,8 +48,8 @@ TEST(RepairCombosTest, UnrepairableAndCompressedFollowTheirBits) {
 
     RepairCombos combos;
     combos.deleteCompressed = true;
-    EXPECT_EQ(CollectRepairCombos(kPolicyDeleteUnrepairable | kOthers, combos),
-              kPolicyDeleteCompressed | kOthers);
+    EXPECT_EQ(CollectRepairCombos(kPolicyDeleteUnrepairable | kOtherPolicyBits, combos),
+              kPolicyDeleteCompressed | kOtherPolicyBits);
 }
 
 TEST(RepairCombosTest, ExecutingIsTestedInTheOrder24To26) {
@@ -63,13 +63,13 @@ TEST(RepairCombosTest, ExecutingIsTestedInTheOrder24To26) {
 TEST(RepairCombosTest, ExecutingChoicesAreExclusive) {
     RepairCombos combos;
     combos.executing = ExecutingAction::ForcedTermination;
-    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOthers, combos), kPolicyExecForced | kOthers);
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOtherPolicyBits, combos), kPolicyExecForced | kOtherPolicyBits);
     combos.executing = ExecutingAction::VerifyFirst;
     EXPECT_EQ(CollectRepairCombos(kPolicyExecRestart, combos), kPolicyExecVerify);
     combos.executing = ExecutingAction::Restart;
     EXPECT_EQ(CollectRepairCombos(kPolicyExecVerify, combos), kPolicyExecRestart);
     combos.executing = ExecutingAction::LeaveAsIs;
-    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOthers, combos), kOthers);
+    EXPECT_EQ(CollectRepairCombos(kPolicyExecuting | kOtherPolicyBits, combos), kOtherPolicyBits);
 }
 
 TEST(RepairCombosTest, BackupBitsAreNotTheCombos) {

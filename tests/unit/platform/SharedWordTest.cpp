@@ -13,9 +13,9 @@ namespace {
 
 using platform::SharedWord;
 
-std::vector<std::string> g_reports;
+std::vector<std::string> g_wordReports;
 
-void RecordReport(const char* line) { g_reports.emplace_back(line); }
+void RecordWordReport(const char* line) { g_wordReports.emplace_back(line); }
 
 struct HelperResult {
     std::string output;
@@ -104,8 +104,8 @@ TEST_F(SharedWordTest, RemoveDeletesWord) {
 // missing: the word then lives in this process, and that is said once.
 TEST_F(SharedWordTest, FallsBackToProcessWordAndReportsOnce) {
     const std::string name = name_ + "/unavailable";
-    g_reports.clear();
-    const platform::ProblemSink previous = platform::SetProblemSink(&RecordReport);
+    g_wordReports.clear();
+    const platform::ProblemSink previous = platform::SetProblemSink(&RecordWordReport);
     testing::internal::CaptureStderr();
     SharedWord first(name);
     SharedWord second(name);
@@ -113,8 +113,8 @@ TEST_F(SharedWordTest, FallsBackToProcessWordAndReportsOnce) {
     platform::SetProblemSink(previous);
     EXPECT_FALSE(first.IsShared());
     EXPECT_FALSE(second.IsShared());
-    ASSERT_EQ(g_reports.size(), 1u);
-    EXPECT_NE(g_reports[0].find(name), std::string::npos);
+    ASSERT_EQ(g_wordReports.size(), 1u);
+    EXPECT_NE(g_wordReports[0].find(name), std::string::npos);
     EXPECT_NE(output.find("Q9CfgUL: "), std::string::npos);
 }
 

@@ -8,6 +8,7 @@
 
 #include "FileSizeLimit.h"
 #include "support/TemporaryRegistry.h"
+#include "RegistryTestValues.h"
 #include "platform/AtomicFile.h"
 
 namespace {
@@ -15,13 +16,7 @@ namespace {
 using platform::CreateDirectories;
 using platform::WriteFileAtomically;
 
-std::set<std::string> FilesIn(const std::string& directory) {
-    std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-        names.insert(entry.path().filename().string());
-    }
-    return names;
-}
+using registry_test::FilesIn;
 
 mode_t PermissionsOf(const std::string& path) {
     struct stat info {};

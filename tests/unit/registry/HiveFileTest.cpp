@@ -30,15 +30,9 @@ using registry_test::SetBytes;
 using registry_test::StringData;
 using registry_test::SubkeyNames;
 
-const std::string kHeader = "Windows Registry Editor Version 5.00\n\n";
+using registry_test::kHiveHeader;
 
-std::set<std::string> FilesIn(const std::string& directory) {
-    std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-        names.insert(entry.path().filename().string());
-    }
-    return names;
-}
+using registry_test::FilesIn;
 
 ino_t InodeOf(const std::string& path) {
     struct stat info {};
@@ -96,12 +90,12 @@ TEST_F(HiveFileCorrupt, IsReportedReadAsEmptyAndNeverWritten) {
 }
 
 TEST_F(HiveFileCorrupt, ReportNamesTheLineAndComesOncePerFileState) {
-    registry_.WriteHive("HKLM.reg", kHeader + "[HKEY_LOCAL_MACHINE\\A]\n\"x\"=dword:zz\n");
+    registry_.WriteHive("HKLM.reg", kHiveHeader + "[HKEY_LOCAL_MACHINE\\A]\n\"x\"=dword:zz\n");
     for (int i = 0; i < 3; ++i) SubkeyNames(LocalMachine());
     ASSERT_EQ(problems_.Lines().size(), 1u);
     EXPECT_NE(problems_.Lines()[0].find("line 4"), std::string::npos) << problems_.Lines()[0];
 
-    registry_.WriteHive("HKLM.reg", kHeader + "[HKEY_LOCAL_MACHINE\\A]\n\n\"x\"=\"open\n");
+    registry_.WriteHive("HKLM.reg", kHiveHeader + "[HKEY_LOCAL_MACHINE\\A]\n\n\"x\"=\"open\n");
     for (int i = 0; i < 3; ++i) SubkeyNames(LocalMachine());
     ASSERT_EQ(problems_.Lines().size(), 2u);
     EXPECT_NE(problems_.Lines()[1].find("line 5"), std::string::npos) << problems_.Lines()[1];
@@ -112,7 +106,7 @@ TEST_F(HiveFileCorrupt, RepairedFileIsUsedAgain) {
     EXPECT_EQ(CreateKey(LocalMachine(), "Software"), kRegistryCorrupt);
     int error = 0;
     ASSERT_TRUE(
-        WriteFileAtomically(MachineHive(), kHeader + "[HKEY_LOCAL_MACHINE\\Fixed]\n", &error));
+        WriteFileAtomically(MachineHive(), kHiveHeader + "[HKEY_LOCAL_MACHINE\\Fixed]\n", &error));
     EXPECT_EQ(SubkeyNames(LocalMachine()), std::vector<std::string>{"Fixed"});
     EXPECT_EQ(CreateKey(LocalMachine(), "Software"), kSuccess);
 }
@@ -234,7 +228,7 @@ TEST_F(HiveFileCache, ChangesByOthersAreSeen) {
     EXPECT_EQ(Query(LocalMachine(), "X").data, DwordData(1));
     int error = 0;
     ASSERT_TRUE(WriteFileAtomically(
-        MachineHive(), kHeader + "[HKEY_LOCAL_MACHINE]\n\"X\"=dword:00000002\n\n", &error));
+        MachineHive(), kHiveHeader + "[HKEY_LOCAL_MACHINE]\n\"X\"=dword:00000002\n\n", &error));
     EXPECT_EQ(Query(LocalMachine(), "X").data, DwordData(2));
     std::filesystem::remove(MachineHive());
     EXPECT_EQ(Query(LocalMachine(), "X").status, kFileNotFound);

@@ -13,7 +13,7 @@ using registry_test::DwordData;
 using registry_test::StringData;
 
 constexpr const char* kRoot = "HKEY_LOCAL_MACHINE";
-const std::string kHeader = "Windows Registry Editor Version 5.00\n\n";
+using registry_test::kHiveHeader;
 
 RegistryHive::Key& Create(RegistryHive& hive, const std::string& path) {
     bool created = false;
@@ -56,7 +56,7 @@ TEST(RegistryHiveFormat, WritesTheExpectedText) {
     Create(hive, "Software\\Orvtek\\Empty");
     Create(hive, "SOFTWARE\\alpha");
 
-    EXPECT_EQ(hive.ToText(), kHeader +
+    EXPECT_EQ(hive.ToText(), kHiveHeader +
                                  "[HKEY_LOCAL_MACHINE\\Software]\n"
                                  "\n"
                                  "[HKEY_LOCAL_MACHINE\\Software\\alpha]\n"
@@ -80,14 +80,14 @@ TEST(RegistryHiveFormat, WritesTheExpectedText) {
 }
 
 TEST(RegistryHiveFormat, EmptyHiveIsTheHeaderOnly) {
-    EXPECT_EQ(RegistryHive(kRoot).ToText(), kHeader);
+    EXPECT_EQ(RegistryHive(kRoot).ToText(), kHiveHeader);
 }
 
 TEST(RegistryHiveFormat, RootSectionOnlyWhenTheRootHasValues) {
     RegistryHive hive(kRoot);
     hive.Root().SetValue("AtRoot", platform::kRegDword, DwordData(2));
     Create(hive, "Child");
-    EXPECT_EQ(hive.ToText(), kHeader +
+    EXPECT_EQ(hive.ToText(), kHiveHeader +
                                  "[HKEY_LOCAL_MACHINE]\n"
                                  "\"AtRoot\"=dword:00000002\n"
                                  "\n"
@@ -126,7 +126,7 @@ TEST(RegistryHiveFormat, WrapsLongHexListsAtEightyColumns) {
     Create(hive, "K").SetValue("Blob", platform::kRegBinary, bytes);
     EXPECT_EQ(
         hive.ToText(),
-        kHeader +
+        kHiveHeader +
             "[HKEY_LOCAL_MACHINE\\K]\n"
             "\"Blob\"=hex:00,01,02,03,04,05,06,07,08,09,0a,0b,0c,0d,0e,0f,10,11,12,13,14,15,\\\n"
             "  16,17,18,19,1a,1b,1c,1d\n"
@@ -168,12 +168,12 @@ TEST(RegistryHiveFormat, SortsSubkeysIgnoringCaseWithLettersFoldedUp) {
 }
 
 TEST(RegistryHiveFormat, WritesParentsBeforeChildrenWhateverTheFileOrder) {
-    const RegistryHive hive = Parsed(kHeader +
+    const RegistryHive hive = Parsed(kHiveHeader +
                                      "[HKEY_LOCAL_MACHINE\\A\\B\\C]\n"
                                      "\"x\"=dword:00000001\n"
                                      "\n"
                                      "[HKEY_LOCAL_MACHINE\\A]\n");
-    EXPECT_EQ(hive.ToText(), kHeader +
+    EXPECT_EQ(hive.ToText(), kHiveHeader +
                                  "[HKEY_LOCAL_MACHINE\\A]\n\n"
                                  "[HKEY_LOCAL_MACHINE\\A\\B]\n\n"
                                  "[HKEY_LOCAL_MACHINE\\A\\B\\C]\n"
@@ -242,7 +242,7 @@ TEST(RegistryHiveParse, RewritesAHandWrittenFileCanonically) {
         "  \"A\" = hex(4):2a,00,00,00\r\n"
         "\"B\"=hex(3):01\r\n"
         "\"C\"=hex(1):68,69,00\r\n");
-    EXPECT_EQ(hive.ToText(), kHeader +
+    EXPECT_EQ(hive.ToText(), kHiveHeader +
                                  "[HKEY_LOCAL_MACHINE\\Software]\n"
                                  "\"A\"=dword:0000002a\n"
                                  "\"B\"=hex:01\n"
@@ -251,7 +251,7 @@ TEST(RegistryHiveParse, RewritesAHandWrittenFileCanonically) {
 }
 
 TEST(RegistryHiveParse, DuplicateValueNamesKeepFirstPlaceAndLastData) {
-    const RegistryHive hive = Parsed(kHeader +
+    const RegistryHive hive = Parsed(kHiveHeader +
                                      "[HKEY_LOCAL_MACHINE\\K]\n"
                                      "\"x\"=dword:00000001\n"
                                      "\"y\"=dword:00000002\n"
@@ -263,7 +263,7 @@ TEST(RegistryHiveParse, DuplicateValueNamesKeepFirstPlaceAndLastData) {
 }
 
 TEST(RegistryHiveParse, RepeatedSectionsAddToTheSameKey) {
-    const RegistryHive hive = Parsed(kHeader +
+    const RegistryHive hive = Parsed(kHiveHeader +
                                      "[HKEY_LOCAL_MACHINE\\K]\n\"a\"=dword:00000001\n\n"
                                      "[HKEY_LOCAL_MACHINE\\k]\n\"b\"=dword:00000002\n");
     ASSERT_EQ(hive.Root().subkeys.size(), 1u);
@@ -271,7 +271,7 @@ TEST(RegistryHiveParse, RepeatedSectionsAddToTheSameKey) {
 }
 
 TEST(RegistryHiveParse, FailureLeavesTheHiveEmpty) {
-    RegistryHive hive = Parsed(kHeader + "[HKEY_LOCAL_MACHINE\\K]\n");
+    RegistryHive hive = Parsed(kHiveHeader + "[HKEY_LOCAL_MACHINE\\K]\n");
     ASSERT_FALSE(hive.Root().subkeys.empty());
     RegistryHive::ParseError error;
     EXPECT_FALSE(hive.Parse("garbage", &error));

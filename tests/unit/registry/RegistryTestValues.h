@@ -3,6 +3,8 @@
 // Small wrappers over the registry calls for readable tests.
 
 #include <cstdint>
+#include <filesystem>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +12,18 @@
 #include "platform/Registry.h"
 
 namespace registry_test {
+
+// The first line of a hive file and the blank line after it.
+inline const std::string kHiveHeader = "Windows Registry Editor Version 5.00\n\n";
+
+// The names of the files in directory.
+inline std::set<std::string> FilesIn(const std::string& directory) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(directory)) {
+        names.insert(entry.path().filename().string());
+    }
+    return names;
+}
 
 // REG_SZ data: the text and its terminating 0.
 inline std::string StringData(std::string_view text) {

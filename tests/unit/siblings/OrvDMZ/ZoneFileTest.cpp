@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr const char* kOwner = "Q9Pro2004";
 
 class ZoneFileTest : public testing::Test {
 protected:

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr const char* kOwner = "Q9Pro2004";
 
 class ZoneOperationsTest : public testing::Test {
 protected:

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr const char* kOwner = "Q9Pro2004";
 
 const std::string kOtherProducts =
     "[OtherProduct]\n"

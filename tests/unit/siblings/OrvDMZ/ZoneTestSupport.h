@@ -14,6 +14,9 @@
 #include "OrvDMZ.h"
 #include "support/TemporaryInstallation.h"
 
+// The owner name the tests write their records under.
+inline constexpr const char* kOwner = "Q9Pro2004";
+
 // One record as a caller sees it.
 struct TestRecord {
     uint32_t inUse = 1;
