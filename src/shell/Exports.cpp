@@ -141,6 +141,10 @@ int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOu
     return result;
 }
 
+// The gates in their order: the page id, the privilege, the password. Only a
+// call that passed them all looks for a configuration window open elsewhere
+// (in the mode runners), so a call refused the password never brings that
+// window forward.
 int32_t DoModal(uint64_t parent, uint32_t flags, int32_t* pageInOut, const char* path1,
                 const char* path2) {
     const CSession session((flags & DMF_Silent) ? CSession::kSilent : CSession::kWithUserInterface);
