@@ -249,6 +249,34 @@ TEST_F(DoModalTest, ARefusedPasswordAnswersTwoWithoutBringingAnOpenWindowForward
     word.Exchange(previous);
 }
 
+// A password prompt open in another process of the installation is not
+// opened a second time: the call answers 2 without a prompt of its own and
+// leaves the other prompt open.
+TEST_F(DoModalTest, APasswordPromptOpenInAnotherProcessAnswersTwoWithoutAPromptOfItsOwn) {
+    Install({"Q9SSCtrl"});
+    SetPassword("right");
+    const std::string stop = caller->install.PathOf("stop");
+    ChildProcess other(Q9_HELPER_DIR "/q9_store_helper",
+                       {"prompt", caller->install.Directory(), stop});
+    ASSERT_TRUE(WaitFor([] { return Q9CfgE_GetAuthenticateDlg(0) != 0; }));
+    const uint64_t otherPrompt = Q9CfgE_GetAuthenticateDlg(0);
+    int prompts = 0;
+    PromptAnswerer cancel(nullptr, [&prompts] { ++prompts; });
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(prompts, 0);
+    EXPECT_TRUE(boxes.boxes.empty());
+    EXPECT_FALSE(other.HasExited());
+    EXPECT_EQ(Q9CfgE_GetAuthenticateDlg(0), otherPrompt);
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n");
+    // Once the other prompt is closed, the call asks for the password itself.
+    caller->install.Write("stop", "\n");
+    EXPECT_EQ(other.Wait(), 0);
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(prompts, 1);
+}
+
 TEST_F(DoModalTest, WithoutAPageIdBothDialogModesOpenPageZero) {
     Install({"Q9SSCtrl"});
     QString header;
