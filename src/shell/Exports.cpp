@@ -6,6 +6,7 @@
 
 #include "Q9CfgE.h"
 #include "options/StoreKeys.h"
+#include "options/SwitchWord.h"
 #include "portblock/RuleFile.h"
 #include "q9cfgul.h"
 #include "session/DiagLog.h"
@@ -38,8 +39,8 @@ int32_t Guarded(int32_t failure, Body body) {
 
 constexpr uint32_t kStyleNamedFile = 257;
 
-// Step 3: the privilege gate. False after the refusal was said (unless
-// silent).
+// Whether the user may change the product's registrations. When not, the
+// refusal is shown (unless the call is silent) and the answer is false.
 bool PassesPrivilegeGate(uint32_t flags) {
     errno = 0;
     if (g_Siblings.HasEnoughPrivilege() != 0) return true;
@@ -51,7 +52,9 @@ bool PassesPrivilegeGate(uint32_t flags) {
     return false;
 }
 
-// Step 6: the product password, unless the caller skips it.
+// Asks for the product password, unless the caller skips it. A prompt open
+// already, in this or another process, is not asked again: the answer is
+// then false.
 bool PassesAuthentication(uint64_t parent, uint32_t flags) {
     if (flags & (DMF_NoAuthenticate | DMF_Silent)) return true;
     if (Q9CfgE_GetAuthenticateDlg(0) != 0) return false;  // a prompt is open already
@@ -59,14 +62,16 @@ bool PassesAuthentication(uint64_t parent, uint32_t flags) {
     return Q9CfgE_AuthenticateEx(parent, 0, caption.c_str()) != 0;
 }
 
-// Step 8: the numbers a session starts from.
+// The values a session starts from: the stored protection level and POP3
+// port, no level or schedule change yet, and an empty pending mask (no
+// function waits for its registration to be refreshed).
 void StartSessionState() {
     g_nProtectLevel = Q9CfgE_GetDWEx(CES_General, CEK_ProtectLevel);
     g_nPop3Port = Q9CfgE_GetDWEx(CES_Pop3, CEK_Pop3Port);
     g_bLevelApplied = 0;
     g_bLevelPending = 0;
     g_bScheduleDirty = 0;
-    g_Siblings.MarkPending(0, 0xFFFFFFFF);
+    g_Siblings.MarkPending(0, kAllSwitchBits);
 }
 
 // A configuration window open in some process is brought to the front. A
@@ -113,7 +118,9 @@ int32_t RunSinglePageMode(uint64_t parent, uint32_t flags, int32_t page) {
     return result;
 }
 
-// Steps 7 to 11: the session proper, after the gates were passed.
+// The session proper, once the privilege and the password were passed: the
+// start values and the mail accounts, then the mode the flags ask for. An
+// unknown mode answers -1.
 int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOut,
                 const char* path1, const char* path2) {
     StartSessionState();
@@ -134,6 +141,10 @@ int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOu
     return result;
 }
 
+// The gates in their order: the page id, the privilege, the password. Only a
+// call that passed them all looks for a configuration window open elsewhere
+// (in the mode runners), so a call refused the password never brings that
+// window forward.
 int32_t DoModal(uint64_t parent, uint32_t flags, int32_t* pageInOut, const char* path1,
                 const char* path2) {
     const CSession session((flags & DMF_Silent) ? CSession::kSilent : CSession::kWithUserInterface);

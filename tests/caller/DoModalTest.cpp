@@ -4,20 +4,24 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeWidget>
 #include <cstdlib>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "BoxAnswerer.h"
-#include "DialogDriver.h"
-#include "support/HelperWindow.h"
 #include "CallerInstallation.h"
+#include "DialogDriver.h"
 #include "Q9CfgE.h"
 #include "framework/WindowBeacon.h"
 #include "platform/SharedWord.h"
 #include "q9cfgul.h"
+#include "support/HelperWindow.h"
 
 namespace {
 
@@ -31,13 +35,18 @@ protected:
     // An installation with function registration present, privileged or not.
     void Install(std::initializer_list<const char*> siblings, bool privileged = true) {
         caller = std::make_unique<CallerInstallation>(siblings);
-        caller->install.Write("Q9SSCtrl.ini",
-                              std::string("[Privilege]\nEnough=") + (privileged ? "1" : "0") + "\n");
+        caller->install.Write(
+            "Q9SSCtrl.ini", std::string("[Privilege]\nEnough=") + (privileged ? "1" : "0") + "\n");
         ASSERT_NE(caller->Load(), nullptr) << dlerror();
         doModal = caller->Entry<DoModalFn>("Q9CfgUL_DoModal");
         ASSERT_NE(doModal, nullptr);
     }
     std::string Journal() const { return caller->install.Read("Q9SSCtrl.journal"); }
+    // The product password of the installation's store.
+    static void SetPassword(const char* password) {
+        ASSERT_EQ(Q9CfgE_SetDWEx(3, 7, 1), 1);
+        ASSERT_EQ(Q9CfgE_SetEncStrEx(3, 9, password), 1);
+    }
     static bool AnyWindowShown() {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             if (widget->isVisible()) return true;
@@ -50,6 +59,37 @@ protected:
 };
 
 constexpr const char* kPrivilegeCall = "Q9SSCtrl_HasEnoughPrivilege\t-\t-\t";
+
+// Answers each password prompt the library shows, as a person would: types
+// the password and presses OK, or presses Cancel when there is none. seen is
+// called first, while the prompt is open.
+class PromptAnswerer {
+public:
+    PromptAnswerer(const char* password, std::function<void()> seen)
+        : m_password(password), m_seen(std::move(seen)) {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { Answer(); });
+        m_timer.start(10);
+    }
+
+private:
+    void Answer() {
+        auto* prompt = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        auto* field = prompt ? prompt->findChild<QLineEdit*>("password") : nullptr;
+        if (!field) return;
+        m_seen();
+        auto* buttons = prompt->findChild<QDialogButtonBox*>();
+        if (!m_password) {
+            buttons->button(QDialogButtonBox::Cancel)->click();
+            return;
+        }
+        field->setText(m_password);
+        buttons->button(QDialogButtonBox::Ok)->click();
+    }
+
+    const char* m_password;
+    std::function<void()> m_seen;
+    QTimer m_timer;
+};
 
 }  // namespace
 
@@ -79,10 +119,9 @@ TEST_F(DoModalTest, RefusedPrivilegeSaysSoAndAnswersTwo) {
     EXPECT_EQ(doModal(0, 5, nullptr, nullptr, nullptr), 2);
     ASSERT_EQ(boxes.boxes.size(), 1u);
     EXPECT_EQ(boxes.boxes[0].title, "Warning");
-    EXPECT_TRUE(boxes.boxes[0].text.startsWith(
-        "Sorry, you are not authorized to execute this task. ("));
-    EXPECT_TRUE(boxes.boxes[0].text.endsWith(
-        ")\nPlease ask the administrator for more details."));
+    EXPECT_TRUE(
+        boxes.boxes[0].text.startsWith("Sorry, you are not authorized to execute this task. ("));
+    EXPECT_TRUE(boxes.boxes[0].text.endsWith(")\nPlease ask the administrator for more details."));
 }
 
 TEST_F(DoModalTest, SilentCallWithRefusedPrivilegeShowsNothingAndAnswersTwo) {
@@ -102,8 +141,9 @@ TEST_F(DoModalTest, MissingRegistrationLibraryCountsAsNoPrivilege) {
 
 TEST_F(DoModalTest, SilentDialogModeWritesTheProtectionLevelBackAndAnswersOne) {
     Install({"Q9SSCtrl"});
-    caller->install.Write("Q9CfgDef.dat",
-                          "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000004\n");
+    caller->install.Write(
+        "Q9CfgDef.dat",
+        "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000004\n");
     EXPECT_FALSE(caller->install.Exists("Q9Cfg.dat"));
     EXPECT_EQ(doModal(0, DMF_Silent, nullptr, nullptr, nullptr), 1);
     EXPECT_NE(caller->install.Read("Q9Cfg.dat").find("CEK_ProtectLevel=dword:00000004"),
@@ -113,8 +153,8 @@ TEST_F(DoModalTest, SilentDialogModeWritesTheProtectionLevelBackAndAnswersOne) {
 TEST_F(DoModalTest, NamedStoreFileIsSelectedBeforeAnythingIsRead) {
     Install({"Q9SSCtrl"});
     const std::string named = caller->install.PathOf("Other.dat");
-    caller->install.Write("Other.dat",
-                          "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000001\n");
+    caller->install.Write(
+        "Other.dat", "Q9 Configuration Store 1\n[CES_General]\nCEK_ProtectLevel=dword:00000001\n");
     EXPECT_EQ(doModal(0, DMF_Silent, nullptr, named.c_str(), nullptr), 1);
     EXPECT_EQ(Q9CfgE_GetDWEx(0, 59), 1u);
     EXPECT_FALSE(caller->install.Exists("Q9Cfg.dat"));
@@ -158,18 +198,83 @@ TEST_F(DoModalTest, OpenConfigurationWindowElsewhereIsBroughtForwardAndAnswersTw
 
 TEST_F(DoModalTest, ADialogOpenInAnotherProcessIsBroughtForwardAfterAuthentication) {
     Install({"Q9SSCtrl"});
+    SetPassword("right");
     HelperWindow other(Q9_HELPER_DIR "/q9_window_helper");
     const uint32_t token = other.WaitForToken();
     ASSERT_NE(token, 0u);
     platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
     word.Exchange(token);
     BoxAnswerer boxes;
+    std::vector<size_t> linesAtPrompt;
+    PromptAnswerer answerer("right", [&] { linesAtPrompt.push_back(other.Lines().size()); });
     EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    // The prompt came while the other window had not been brought forward.
+    EXPECT_EQ(linesAtPrompt, std::vector<size_t>{1});
     EXPECT_TRUE(WaitFor([&other] { return other.Lines().size() == 2; }));
     EXPECT_EQ(other.Lines().back(), "forward");
     EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n");
     EXPECT_TRUE(boxes.boxes.empty());
     word.Exchange(0);
+}
+
+// The password is asked before an open window is looked for: a caller who
+// does not give it gets 2, and the open window is left where it is.
+TEST_F(DoModalTest, ARefusedPasswordAnswersTwoWithoutBringingAnOpenWindowForward) {
+    Install({"Q9SSCtrl"});
+    SetPassword("right");
+    QWidget openWindow;
+    WindowBeacon beacon(&openWindow);
+    std::vector<std::string> events;
+    QObject::connect(&beacon, &WindowBeacon::broughtForward,
+                     [&events] { events.push_back("forward"); });
+    platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
+    const uint32_t previous = word.Exchange(beacon.Token());
+    {
+        PromptAnswerer cancel(nullptr, [&events] { events.push_back("prompt"); });
+        EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+        EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    }
+    EXPECT_EQ(events, (std::vector<std::string>{"prompt", "prompt"}));
+    EXPECT_EQ(word.Load(), beacon.Token());
+    // With the right password the same calls go on to the open window.
+    events.clear();
+    {
+        PromptAnswerer right("right", [&events] { events.push_back("prompt"); });
+        EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+        EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    }
+    EXPECT_EQ(events, (std::vector<std::string>{"prompt", "forward", "prompt", "forward"}));
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n" +
+                             kPrivilegeCall + "1\n" + kPrivilegeCall + "1\n");
+    word.Exchange(previous);
+}
+
+// A password prompt open in another process of the installation is not
+// opened a second time: the call answers 2 without a prompt of its own and
+// leaves the other prompt open.
+TEST_F(DoModalTest, APasswordPromptOpenInAnotherProcessAnswersTwoWithoutAPromptOfItsOwn) {
+    Install({"Q9SSCtrl"});
+    SetPassword("right");
+    const std::string stop = caller->install.PathOf("stop");
+    ChildProcess other(Q9_HELPER_DIR "/q9_store_helper",
+                       {"prompt", caller->install.Directory(), stop});
+    ASSERT_TRUE(WaitFor([] { return Q9CfgE_GetAuthenticateDlg(0) != 0; }));
+    const uint64_t otherPrompt = Q9CfgE_GetAuthenticateDlg(0);
+    int prompts = 0;
+    PromptAnswerer cancel(nullptr, [&prompts] { ++prompts; });
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(prompts, 0);
+    EXPECT_TRUE(boxes.boxes.empty());
+    EXPECT_FALSE(other.HasExited());
+    EXPECT_EQ(Q9CfgE_GetAuthenticateDlg(0), otherPrompt);
+    EXPECT_EQ(Journal(), std::string(kPrivilegeCall) + "1\n" + kPrivilegeCall + "1\n");
+    // Once the other prompt is closed, the call asks for the password itself.
+    caller->install.Write("stop", "\n");
+    EXPECT_EQ(other.Wait(), 0);
+    EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(prompts, 1);
 }
 
 TEST_F(DoModalTest, WithoutAPageIdBothDialogModesOpenPageZero) {
@@ -189,7 +294,8 @@ TEST_F(DoModalTest, WithoutAPageIdBothDialogModesOpenPageZero) {
             caption = dialog->windowTitle();
             DialogDriver::Find<QPushButton>(dialog, 2)->click();
         });
-        EXPECT_EQ(doModal(0, DMF_ModeSinglePage | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
+        EXPECT_EQ(doModal(0, DMF_ModeSinglePage | DMF_NoAuthenticate, nullptr, nullptr, nullptr),
+                  2);
     }
     EXPECT_EQ(header, "System Scan/Monitoring");
     EXPECT_EQ(caption, "System Scan/Monitoring");

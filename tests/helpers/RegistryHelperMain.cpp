@@ -13,8 +13,9 @@
 //       succeeded.
 //
 //   q9_registry_helper lock <lock file>
-//       Takes the lock (waiting as long as another holder keeps it) and
-//       exits 0 once it has it.
+//       Writes the line "about to lock" to standard output, then takes the
+//       lock (waiting as long as another holder keeps it) and exits 0 once it
+//       has it.
 
 #include <chrono>
 #include <cstdio>
@@ -154,6 +155,14 @@ int Increment(const char* name, int count) {
     return 0;
 }
 
+// The line comes first, so that a test that holds the lock knows this
+// process is at the lock and not still starting.
+int Lock(const char* path) {
+    std::printf("about to lock\n");
+    std::fflush(stdout);
+    return platform::FileLock(path).IsLocked() ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -166,6 +175,6 @@ int main(int argc, char** argv) {
     const std::string mode = argv[1];
     if (mode == "read-loop" && argc == 4) return ReadLoop(std::atoi(argv[3]));
     if (mode == "increment" && argc == 5) return Increment(argv[3], std::atoi(argv[4]));
-    if (mode == "lock" && argc == 3) return platform::FileLock(argv[2]).IsLocked() ? 0 : 1;
+    if (mode == "lock" && argc == 3) return Lock(argv[2]);
     return Fail("unknown command " + mode);
 }

@@ -7,8 +7,8 @@
 #include <thread>
 
 #include "HelperProcess.h"
-#include "support/TemporaryRegistry.h"
 #include "platform/FileLock.h"
+#include "support/TemporaryRegistry.h"
 
 namespace {
 
@@ -41,8 +41,11 @@ TEST_F(FileLockBasics, ReportsWhyItCannotLock) {
 TEST_F(FileLockBasics, OtherProcessWaitsUntilReleased) {
     auto lock = std::make_unique<FileLock>(LockPath());
     ASSERT_TRUE(lock->IsLocked());
-    HelperProcess other({"lock", LockPath()});
+    HelperProcess other({"lock", LockPath()}, HelperProcess::Output::kPiped);
     ASSERT_TRUE(other.Started());
+    // Only a process that has come as far as the lock proves anything by
+    // still waiting after a while.
+    ASSERT_TRUE(other.WaitForLine("about to lock"));
     std::this_thread::sleep_for(200ms);
     EXPECT_FALSE(other.HasExited()) << "the other process got the lock while it was held";
     lock.reset();
@@ -51,11 +54,14 @@ TEST_F(FileLockBasics, OtherProcessWaitsUntilReleased) {
 
 TEST_F(FileLockBasics, SecondLockInSameProcessWaitsToo) {
     auto lock = std::make_unique<FileLock>(LockPath());
+    std::atomic<bool> aboutToLock{false};
     std::atomic<bool> acquired{false};
     std::thread other([&] {
+        aboutToLock = true;
         const FileLock otherLock(LockPath());
         acquired = otherLock.IsLocked();
     });
+    EXPECT_TRUE(WaitFor([&] { return aboutToLock.load(); }));
     std::this_thread::sleep_for(100ms);
     EXPECT_FALSE(acquired.load());
     lock.reset();

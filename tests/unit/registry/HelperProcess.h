@@ -6,6 +6,6 @@
 // process.
 class HelperProcess : public ChildProcess {
 public:
-    explicit HelperProcess(std::vector<std::string> arguments)
-        : ChildProcess(Q9_HELPER_DIR "/q9_registry_helper", std::move(arguments)) {}
+    explicit HelperProcess(std::vector<std::string> arguments, Output output = Output::kInherited)
+        : ChildProcess(Q9_HELPER_DIR "/q9_registry_helper", std::move(arguments), output) {}
 };

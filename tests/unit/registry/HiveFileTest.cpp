@@ -11,13 +11,14 @@
 #include <thread>
 
 #include "FileSizeLimit.h"
-#include "support/ProblemCapture.h"
 #include "RegistryTestValues.h"
-#include "support/TemporaryRegistry.h"
 #include "platform/AtomicFile.h"
 #include "platform/FileLock.h"
 #include "platform/HiveFile.h"
 #include "platform/Registry.h"
+#include "support/ChildProcess.h"
+#include "support/ProblemCapture.h"
+#include "support/TemporaryRegistry.h"
 
 namespace {
 
@@ -166,11 +167,14 @@ TEST_F(HiveFileWrite, WritersTakeTheLock) {
     ASSERT_EQ(CreateKey(LocalMachine(), "Software"), kSuccess);
     auto lock = std::make_unique<FileLock>(MachineHive() + ".lock");
     ASSERT_TRUE(lock->IsLocked());
+    std::atomic<bool> aboutToWrite{false};
     std::atomic<bool> done{false};
     std::thread writer([&] {
+        aboutToWrite = true;
         SetBytes(LocalMachine(), "Late", kRegDword, DwordData(1));
         done = true;
     });
+    EXPECT_TRUE(WaitFor([&] { return aboutToWrite.load(); }));
     std::this_thread::sleep_for(150ms);
     EXPECT_FALSE(done.load()) << "the write went ahead while the lock was held";
     lock.reset();
