@@ -44,6 +44,8 @@ int32_t CSiblingLibs::HasEnoughPrivilege() { return m_registration.HasEnoughPriv
 
 // --- Mail accounts -----------------------------------------------------------
 
+MailAccounts CSiblingLibs::CreateMailAccounts() { return MailAccounts::Create(); }
+
 void* CSiblingLibs::P3Create() { return m_mailAccounts.Create(); }
 
 void CSiblingLibs::P3Free(void* accounts) { m_mailAccounts.Free(accounts); }
@@ -95,6 +97,8 @@ int32_t CSiblingLibs::MsgFltWriteRules() { return m_spamFilter.WriteRules(); }
 int32_t CSiblingLibs::MsgFltGetRuleCount() { return m_spamFilter.RuleCount(); }
 
 // --- Exclusion zone ----------------------------------------------------------
+
+ExclusionZone CSiblingLibs::CreateExclusionZone() { return ExclusionZone::Create(); }
 
 void* CSiblingLibs::DMZCreate() { return m_exclusionZone.Create(); }
 

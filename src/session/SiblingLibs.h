@@ -26,7 +26,9 @@
 #include <cstdint>
 #include <string>
 
+#include "session/ExclusionZone.h"
 #include "session/ExclusionZoneBinding.h"
+#include "session/MailAccounts.h"
 #include "session/MailAccountsBinding.h"
 #include "session/MessengerBinding.h"
 #include "session/NetworkDrives.h"
@@ -51,7 +53,8 @@ public:
     int32_t LoadDMZ();
 
     // Frees every loaded library, in the order Q9SSCtrl, Q9P3ATHL, Q9IMcfg,
-    // OrvDMZ, Q9MsgFlt. The pending mask stays as it is.
+    // OrvDMZ, Q9MsgFlt. The pending mask stays as it is. A MailAccounts or
+    // ExclusionZone still alive keeps its library loaded until it goes.
     void Release();
 
     // Function registration, the single door to Q9SSCtrl. op 1 on a function
@@ -70,7 +73,11 @@ public:
     // Whether the user may change registrations; 0 when missing.
     int32_t HasEnoughPrivilege();
 
-    // Mail accounts (Q9P3ATHL). Texts are copied at once; empty when missing.
+    // Mail accounts (Q9P3ATHL): a new account object that frees itself; empty
+    // when the library is missing.
+    MailAccounts CreateMailAccounts();
+    // The same on raw objects, which the caller must give back to P3Free.
+    // Texts are copied at once; empty when missing.
     void* P3Create();
     void P3Free(void* accounts);
     int32_t P3Load(void* accounts);
@@ -94,7 +101,11 @@ public:
     int32_t MsgFltWriteRules();
     int32_t MsgFltGetRuleCount();
 
-    // The shared exclusion zone (OrvDMZ). DMZEnum returns the bytes needed.
+    // The shared exclusion zone (OrvDMZ): a handle that destroys itself;
+    // empty when the library is missing.
+    ExclusionZone CreateExclusionZone();
+    // The same on raw handles, which the caller must give back to
+    // DMZDestroy. DMZEnum returns the bytes needed.
     void* DMZCreate();
     int32_t DMZAdd(void* zone, const char* owner, const char* owner2, const void* records);
     int32_t DMZEnum(void* zone, const char* owner, const char* owner2, void* buffer, int32_t size);
