@@ -15,7 +15,8 @@ int32_t g_bLevelPending = 0;
 int32_t g_bScheduleDirty = 0;
 int32_t g_bInWizard = 0;
 int32_t g_nMasterType = 0;
-void* g_hPop3Accounts = nullptr;
+// Defined after g_szModuleDir, so that it goes before it at exit.
+MailAccounts g_Pop3Accounts;
 
 void InitProcessState() {
     const platform::HostFlags flags = platform::FlagsFor(platform::DetectHostVersion());

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "session/MailAccounts.h"
+
 // The host's version flags (see platform/HostVersion.h for what they mean on
 // this platform).
 extern int32_t g_bWinNT;
@@ -32,8 +34,8 @@ extern int32_t g_bScheduleDirty;
 extern int32_t g_bInWizard;
 // 2 when the master edition came from the secure profile, else 0.
 extern int32_t g_nMasterType;
-// The mail account profile object of the session, or null.
-extern void* g_hPop3Accounts;
+// The mail account object of the session; empty outside a session.
+extern MailAccounts g_Pop3Accounts;
 
 // Sets the host flags from the host's version and g_szModuleDir from the
 // library's location. Called once at library start.

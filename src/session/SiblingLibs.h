@@ -1,16 +1,20 @@
 #pragma once
 
-// The product's other libraries, bound at run time. An edition may ship
-// without any of them, so every binding turns absence into a plain result:
-// a missing library or entry point gives 0, null or empty text, silently,
-// and the program goes on. No caller ever sees a load failure as such.
+// The product's other libraries, bound at run time, behind one door. An
+// edition may ship without any of them, so every binding turns absence into
+// a plain result: a missing library or entry point gives 0, null or empty
+// text, silently, and the program goes on. No caller ever sees a load
+// failure as such.
 //
-// Libraries are found as lib<Name>.so in g_szModuleDir. Each library with a
-// handle is loaded by its load step on first need and kept until Release;
-// the secure profile library (OrvInst) and, for the language id, the
-// language library (OrvI18N) are loaded for one call and freed again.
-// Entry points are looked up by name at every call, so there is no cache to
-// keep consistent.
+// Each library has a binding of its own (RegistrationBinding,
+// MailAccountsBinding, MessengerBinding, SpamFilterBinding,
+// ExclusionZoneBinding, SecureProfileBinding, LanguageBinding); this object
+// holds one of each and passes every call on. Libraries are found as
+// lib<Name>.so in g_szModuleDir. Each library with a handle is loaded by its
+// load step on first need and kept until Release; the secure profile library
+// (OrvInst) and, for the language id, the language library (OrvI18N) are
+// loaded for one call and freed again. Entry points are looked up by name at
+// every call, so there is no cache to keep consistent.
 //
 // The second job of this object is the pending mask: the switch bits of the
 // functions that a page of this session changed in the store and whose
@@ -22,27 +26,15 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/SharedLibrary.h"
+#include "session/ExclusionZone.h"
+#include "session/ExclusionZoneBinding.h"
+#include "session/MailAccounts.h"
+#include "session/MailAccountsBinding.h"
+#include "session/MessengerBinding.h"
 #include "session/NetworkDrives.h"
-
-// The operations of ServiceControl. Any op other than 1 to 4 asks
-// CanBeRegister.
-enum ServiceControlOp : int32_t {
-    SC_CanBeRegister = 0,
-    SC_IsRegistered = 1,
-    SC_Register = 2,
-    SC_Unregister = 3,
-    SC_SetCfgChanged = 4,
-};
-
-// The option every caller but the silent policy step passes.
-constexpr int32_t kServiceOption = 2;
-// How long Unregister waits for a function to stop.
-constexpr int32_t kUnregisterTimeoutMs = 5000;
-
-// Secure profile files beside the library.
-constexpr const char* kSecProfileFile = "Q9Sec.dat";
-constexpr const char* kWarnMailProfileFile = "Q9WM.dat";
+#include "session/RegistrationBinding.h"
+#include "session/SecureProfileBinding.h"
+#include "session/SpamFilterBinding.h"
 
 class CSiblingLibs {
 public:
@@ -61,7 +53,8 @@ public:
     int32_t LoadDMZ();
 
     // Frees every loaded library, in the order Q9SSCtrl, Q9P3ATHL, Q9IMcfg,
-    // OrvDMZ, Q9MsgFlt. The pending mask stays as it is.
+    // OrvDMZ, Q9MsgFlt. The pending mask stays as it is. A MailAccounts or
+    // ExclusionZone still alive keeps its library loaded until it goes.
     void Release();
 
     // Function registration, the single door to Q9SSCtrl. op 1 on a function
@@ -80,7 +73,11 @@ public:
     // Whether the user may change registrations; 0 when missing.
     int32_t HasEnoughPrivilege();
 
-    // Mail accounts (Q9P3ATHL). Texts are copied at once; empty when missing.
+    // Mail accounts (Q9P3ATHL): a new account object that frees itself; empty
+    // when the library is missing.
+    MailAccounts CreateMailAccounts();
+    // The same on raw objects, which the caller must give back to P3Free.
+    // Texts are copied at once; empty when missing.
     void* P3Create();
     void P3Free(void* accounts);
     int32_t P3Load(void* accounts);
@@ -104,7 +101,11 @@ public:
     int32_t MsgFltWriteRules();
     int32_t MsgFltGetRuleCount();
 
-    // The shared exclusion zone (OrvDMZ). DMZEnum returns the bytes needed.
+    // The shared exclusion zone (OrvDMZ): a handle that destroys itself;
+    // empty when the library is missing.
+    ExclusionZone CreateExclusionZone();
+    // The same on raw handles, which the caller must give back to
+    // DMZDestroy. DMZEnum returns the bytes needed.
     void* DMZCreate();
     int32_t DMZAdd(void* zone, const char* owner, const char* owner2, const void* records);
     int32_t DMZEnum(void* zone, const char* owner, const char* owner2, void* buffer, int32_t size);
@@ -117,20 +118,13 @@ public:
                           uint32_t flags);
     std::string GetRemoteName(const std::string& drive, int32_t scope);
 
-    // Secure profiles (OrvInst), each loading the library for the one call.
-    // GetSecInt reads "Q9WM.dat" when useWarnMail is exactly 1, otherwise
-    // "Q9Sec.dat"; 0 when missing.
+    // Secure profiles (OrvInst), each loading the library for the one call
+    // (see SecureProfileBinding).
     int32_t GetSecInt(const char* section, const char* key, int32_t useWarnMail);
-    // The value from fileName (beside the library), at most 1023 bytes; the
-    // default when the key has no value or the library is missing.
     std::string GetSecString(const char* section, const char* key, const char* defaultText,
                              const char* fileName);
-    // Write into "Q9WM.dat": 1 when the entry point was reached, else 0.
     int32_t WriteSecString(const char* section, const char* key, const char* value);
     int32_t WriteSecInt(const char* section, const char* key, int32_t value);
-    // A product text of "Q9Sec.dat": the language-specific key ("1031_Key"
-    // under a German session) first, then the plain key, then defaultText.
-    // Empty text when the library is missing.
     std::string GetProductString(const char* section, const char* key, const char* defaultText);
 
     // The session's language id (OrvI18N), low 16 bits; 0 when missing.
@@ -138,14 +132,15 @@ public:
 
 private:
     bool IsPending(int32_t item) const;
-    int32_t CallSSCtrl(int32_t op, int32_t item, int32_t option);
 
     uint32_t m_pendingMask = 0;
-    platform::SharedLibrary m_hSSCtrl;
-    platform::SharedLibrary m_hP3Athl;
-    platform::SharedLibrary m_hIMcfg;
-    platform::SharedLibrary m_hMsgFlt;
-    platform::SharedLibrary m_hDMZ;
+    RegistrationBinding m_registration;
+    MailAccountsBinding m_mailAccounts;
+    MessengerBinding m_messengers;
+    SpamFilterBinding m_spamFilter;
+    ExclusionZoneBinding m_exclusionZone;
+    SecureProfileBinding m_secureProfiles;
+    LanguageBinding m_language;
     CNetworkDrives m_network;  // the network drives need no library here
 };
 

@@ -124,8 +124,8 @@ int32_t RunSinglePageMode(uint64_t parent, uint32_t flags, int32_t page) {
 int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOut,
                 const char* path1, const char* path2) {
     StartSessionState();
-    g_hPop3Accounts = g_Siblings.P3Create();
-    if (g_hPop3Accounts) g_Siblings.P3Load(g_hPop3Accounts);
+    g_Pop3Accounts = g_Siblings.CreateMailAccounts();
+    g_Pop3Accounts.Read();
 
     int32_t result = -1;
     switch (flags & DMF_ModeMask) {
@@ -136,8 +136,8 @@ int32_t RunMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pageInOu
         case DMF_ModeSinglePage: result = RunSinglePageMode(parent, flags, page); break;
         default: break;
     }
-    // The variable keeps its stale value, as the pages expect nothing after.
-    if (g_hPop3Accounts) g_Siblings.P3Free(g_hPop3Accounts);
+    // The account object goes with the session.
+    g_Pop3Accounts = MailAccounts();
     return result;
 }
 
