@@ -9,13 +9,13 @@
 
 CDialog::CDialog(int templateId, QWidget* parent)
     : QDialog(parent),
-      templateId_(templateId),
-      power_([this](int event) { OnPowerBroadcast(event); }) {}
+      m_templateId(templateId),
+      m_power([this](int event) { OnPowerBroadcast(event); }) {}
 
 bool CDialog::Create() {
-    if (!built_) {
-        if (!BuildDialogTemplate(templateId_, this)) return false;
-        built_ = true;
+    if (!m_built) {
+        if (!BuildDialogTemplate(m_templateId, this)) return false;
+        m_built = true;
         ctl::ConnectControls(this, [this](int id, ctl::Notification code) {
             if (code == ctl::Notification::kClicked &&
                 qobject_cast<QPushButton*>(Control(id)) != nullptr) {
@@ -29,9 +29,9 @@ bool CDialog::Create() {
 
 int CDialog::DoModal() {
     if (!Create()) return kNotMade;
-    power_.Start();
+    m_power.Start();
     const int result = exec();
-    power_.Stop();
+    m_power.Stop();
     return result;
 }
 

@@ -49,7 +49,7 @@ protected:
     virtual void OnCancel();
 
 private:
-    int templateId_;
-    bool built_ = false;
-    PowerWatch power_;
+    int m_templateId;
+    bool m_built = false;
+    PowerWatch m_power;
 };

@@ -9,6 +9,9 @@
 #include <cstdint>
 #include <string>
 
+// Every bit of a word: what a page owns of a word it writes whole.
+constexpr uint32_t kWholeWord = 0xFFFFFFFF;
+
 // A value's address in the store.
 struct StoreAddress {
     uint32_t section = 0;

@@ -135,7 +135,7 @@ public:
         SetGroupedNumber(m_spin, static_cast<int32_t>(values.Word(m_word)));
     }
     std::optional<StoreAddress> Word() const override { return m_word; }
-    uint32_t Mask() const override { return 0xFFFFFFFF; }
+    uint32_t Mask() const override { return kWholeWord; }
     uint32_t Collect(uint32_t /*word*/) const override {
         return static_cast<uint32_t>(GetGroupedNumber(m_spin, nullptr));
     }

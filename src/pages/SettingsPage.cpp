@@ -13,7 +13,7 @@ constexpr int kNoticeTop = 10;
 
 }  // namespace
 
-CSettingsPage::CSettingsPage(int templateId) : templateId_(templateId) {}
+CSettingsPage::CSettingsPage(int templateId) : m_templateId(templateId) {}
 
 CSettingsPage::~CSettingsPage() = default;
 
@@ -27,7 +27,7 @@ bool CSettingsPage::Create(QWidget* parent) {
     return true;
 }
 
-bool CSettingsPage::BuildControls() { return BuildDialogTemplate(templateId_, this); }
+bool CSettingsPage::BuildControls() { return BuildDialogTemplate(m_templateId, this); }
 
 void CSettingsPage::Save() {
     if (m_covered == 0) OnSave();

@@ -108,5 +108,5 @@ private:
     void WalkRange(int firstId, int lastId, bool includeFirst, int count, Change change);
     void PostToShell(int id);
 
-    int templateId_;
+    int m_templateId;
 };

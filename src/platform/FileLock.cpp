@@ -13,21 +13,21 @@ FileLock::FileLock(const std::string& lockPath) {
     // that another user created.
     const int fd = open(lockPath.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0644);
     if (fd < 0) {
-        error_ = errno;
+        m_error = errno;
         return;
     }
     while (flock(fd, LOCK_EX) != 0) {
         if (errno == EINTR) continue;
-        error_ = errno;
+        m_error = errno;
         close(fd);
         return;
     }
-    fd_ = fd;
+    m_fd = fd;
 }
 
 FileLock::~FileLock() {
     // Closing the only descriptor of the open file releases the lock.
-    if (fd_ >= 0) close(fd_);
+    if (m_fd >= 0) close(m_fd);
 }
 
 }  // namespace platform

@@ -24,14 +24,14 @@ public:
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    bool IsLocked() const { return fd_ >= 0; }
+    bool IsLocked() const { return m_fd >= 0; }
 
     // The errno value of the failure; 0 when locked.
-    int ErrorNumber() const { return error_; }
+    int ErrorNumber() const { return m_error; }
 
 private:
-    int fd_ = -1;
-    int error_ = 0;
+    int m_fd = -1;
+    int m_error = 0;
 };
 
 }  // namespace platform

@@ -40,15 +40,15 @@ int32_t WriteFailure(const std::string& what, int error) {
 }  // namespace
 
 HiveFile::HiveFile(std::string fileName, std::string rootName)
-    : fileName_(std::move(fileName)), rootName_(std::move(rootName)) {}
+    : m_fileName(std::move(fileName)), m_rootName(std::move(rootName)) {}
 
-std::string HiveFile::Path() const { return RegistryDirectory() + fileName_; }
+std::string HiveFile::Path() const { return RegistryDirectory() + m_fileName; }
 
 HiveFile::Snapshot HiveFile::Read() { return Load(Path()); }
 
 int32_t HiveFile::Modify(const Change& change) {
     const std::string directory = RegistryDirectory();
-    const std::string path = directory + fileName_;
+    const std::string path = directory + m_fileName;
     int error = 0;
     if (!CreateDirectories(directory, &error)) {
         return WriteFailure("cannot create the registry directory " + directory, error);
@@ -75,8 +75,8 @@ HiveFile::Signature HiveFile::SignatureOf(const std::string& path) {
 HiveFile::Snapshot HiveFile::Load(const std::string& path) {
     Signature signature = SignatureOf(path);
     {
-        const std::lock_guard<std::mutex> guard(mutex_);
-        if (cached_ && signature == cachedSignature_) return cachedSnapshot_;
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        if (m_cached && signature == m_cachedSignature) return m_cachedSnapshot;
     }
     RegistryHive::ParseError parseError;
     const Snapshot snapshot = ReadFile(path, &signature, &parseError);
@@ -96,7 +96,7 @@ HiveFile::Snapshot HiveFile::Load(const std::string& path) {
 // read, which may be newer than the one stat() saw before.
 HiveFile::Snapshot HiveFile::ReadFile(const std::string& path, Signature* signature,
                                       RegistryHive::ParseError* parseError) {
-    auto hive = std::make_shared<RegistryHive>(rootName_);
+    auto hive = std::make_shared<RegistryHive>(m_rootName);
     Snapshot snapshot;
     snapshot.hive = hive;
     const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -116,18 +116,18 @@ HiveFile::Snapshot HiveFile::ReadFile(const std::string& path, Signature* signat
 }
 
 void HiveFile::Remember(const Signature& signature, const Snapshot& snapshot) {
-    const std::lock_guard<std::mutex> guard(mutex_);
-    cached_ = true;
-    cachedSignature_ = signature;
-    cachedSnapshot_ = snapshot;
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    m_cached = true;
+    m_cachedSignature = signature;
+    m_cachedSnapshot = snapshot;
 }
 
 // Reported outside the mutex: the problem sink may well read the registry.
 void HiveFile::ReportOnce(const Signature& signature, const std::string& text) {
     {
-        const std::lock_guard<std::mutex> guard(mutex_);
-        if (signature == reportedSignature_) return;
-        reportedSignature_ = signature;
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        if (signature == m_reportedSignature) return;
+        m_reportedSignature = signature;
     }
     ReportProblem(text);
 }

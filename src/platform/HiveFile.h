@@ -81,14 +81,14 @@ private:
     void ReportOnce(const Signature& signature, const std::string& text);
     int32_t WriteHive(const std::string& path, RegistryHive hive);
 
-    const std::string fileName_;
-    const std::string rootName_;
+    const std::string m_fileName;
+    const std::string m_rootName;
 
-    std::mutex mutex_;  // guards the members below
-    bool cached_ = false;
-    Signature cachedSignature_;
-    Snapshot cachedSnapshot_;
-    Signature reportedSignature_;
+    std::mutex m_mutex;  // guards the members below
+    bool m_cached = false;
+    Signature m_cachedSignature;
+    Snapshot m_cachedSnapshot;
+    Signature m_reportedSignature;
 };
 
 }  // namespace platform

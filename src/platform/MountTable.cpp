@@ -149,14 +149,14 @@ MountTable MountTable::FromFile(const std::string& path, const std::string& sysf
 MountTable MountTable::FromSystem() { return FromFile("/proc/self/mounts", "/sys"); }
 
 void MountTable::Add(MountEntry entry, const std::string& sysfsRoot) {
-    kinds_.push_back(Classify(entry, sysfsRoot));
-    entries_.push_back(std::move(entry));
+    m_kinds.push_back(Classify(entry, sysfsRoot));
+    m_entries.push_back(std::move(entry));
 }
 
-const std::vector<MountEntry>& MountTable::entries() const { return entries_; }
+const std::vector<MountEntry>& MountTable::entries() const { return m_entries; }
 
 DriveKind MountTable::KindOfEntry(size_t index) const {
-    return index < kinds_.size() ? kinds_[index] : DriveKind::Unknown;
+    return index < m_kinds.size() ? m_kinds[index] : DriveKind::Unknown;
 }
 
 std::vector<MountEntry> MountTable::LocalDrives() const { return VisibleOfKind(DriveKind::Fixed); }
@@ -167,45 +167,45 @@ std::vector<MountEntry> MountTable::NetworkDrives() const {
 
 std::vector<MountEntry> MountTable::VisibleOfKind(DriveKind kind) const {
     std::vector<MountEntry> drives;
-    for (size_t index = 0; index < entries_.size(); ++index) {
-        if (kinds_[index] == kind && !IsShadowed(index)) drives.push_back(entries_[index]);
+    for (size_t index = 0; index < m_entries.size(); ++index) {
+        if (m_kinds[index] == kind && !IsShadowed(index)) drives.push_back(m_entries[index]);
     }
     return drives;
 }
 
 // A mount is hidden by a later one on the same mount point.
 bool MountTable::IsShadowed(size_t index) const {
-    for (size_t later = index + 1; later < entries_.size(); ++later) {
-        if (entries_[later].mountPoint == entries_[index].mountPoint) return true;
+    for (size_t later = index + 1; later < m_entries.size(); ++later) {
+        if (m_entries[later].mountPoint == m_entries[index].mountPoint) return true;
     }
     return false;
 }
 
 std::optional<size_t> MountTable::FindIndex(const std::string& path) const {
     std::optional<size_t> best;
-    for (size_t index = 0; index < entries_.size(); ++index) {
-        const std::string& mountPoint = entries_[index].mountPoint;
+    for (size_t index = 0; index < m_entries.size(); ++index) {
+        const std::string& mountPoint = m_entries[index].mountPoint;
         if (!MountPointHolds(mountPoint, path)) continue;
         // ">=": of equal mount points the later one wins.
-        if (!best || mountPoint.size() >= entries_[*best].mountPoint.size()) best = index;
+        if (!best || mountPoint.size() >= m_entries[*best].mountPoint.size()) best = index;
     }
     return best;
 }
 
 const MountEntry* MountTable::FindMount(const std::string& path) const {
     const std::optional<size_t> index = FindIndex(path);
-    return index ? &entries_[*index] : nullptr;
+    return index ? &m_entries[*index] : nullptr;
 }
 
 DriveKind MountTable::KindOf(const std::string& path) const {
     const std::optional<size_t> index = FindIndex(path);
-    return index ? kinds_[*index] : DriveKind::NoRoot;
+    return index ? m_kinds[*index] : DriveKind::NoRoot;
 }
 
 std::string MountTable::NetworkPathOf(const std::string& path) const {
     const std::optional<size_t> index = FindIndex(path);
-    if (!index || kinds_[*index] != DriveKind::Remote) return {};
-    const MountEntry& mount = entries_[*index];
+    if (!index || m_kinds[*index] != DriveKind::Remote) return {};
+    const MountEntry& mount = m_entries[*index];
     return NetworkPathBelow(mount.source, mount.mountPoint, path);
 }
 

@@ -99,8 +99,8 @@ private:
     bool IsShadowed(size_t index) const;
     std::vector<MountEntry> VisibleOfKind(DriveKind kind) const;
 
-    std::vector<MountEntry> entries_;
-    std::vector<DriveKind> kinds_;  // one per entry
+    std::vector<MountEntry> m_entries;
+    std::vector<DriveKind> m_kinds;  // one per entry
 };
 
 }  // namespace platform

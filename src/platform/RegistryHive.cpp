@@ -414,13 +414,13 @@ bool RegistryHive::Key::DeleteSubkey(std::string_view keyName) {
     return true;
 }
 
-RegistryHive::RegistryHive(std::string rootName) : rootName_(std::move(rootName)) {
-    root_.name = rootName_;
+RegistryHive::RegistryHive(std::string rootName) : m_rootName(std::move(rootName)) {
+    m_root.name = m_rootName;
 }
 
 const RegistryHive::Key* RegistryHive::FindKey(const KeyPath& path, KeyPath* canonical) const {
     if (canonical) canonical->clear();
-    const Key* key = &root_;
+    const Key* key = &m_root;
     for (const std::string& name : path) {
         key = key->FindSubkey(name);
         if (!key) return nullptr;
@@ -436,7 +436,7 @@ RegistryHive::Key* RegistryHive::FindKey(const KeyPath& path) {
 RegistryHive::Key& RegistryHive::CreateKey(const KeyPath& path, bool* created, KeyPath* canonical) {
     *created = false;
     if (canonical) canonical->clear();
-    Key* key = &root_;
+    Key* key = &m_root;
     for (const std::string& name : path) {
         key = &key->AddSubkey(name, created);
         if (canonical) canonical->push_back(key->name);
@@ -451,8 +451,8 @@ bool RegistryHive::RemoveKey(const KeyPath& path) {
 }
 
 bool RegistryHive::Parse(std::string_view text, ParseError* error) {
-    root_ = Key();
-    root_.name = rootName_;
+    m_root = Key();
+    m_root.name = m_rootName;
     if (text.substr(0, kUtf8Bom.size()) == kUtf8Bom) text.remove_prefix(kUtf8Bom.size());
     LineCursor cursor{text};
     std::string_view line;
@@ -477,18 +477,18 @@ bool RegistryHive::Parse(std::string_view text, ParseError* error) {
     if (parsed) return true;
     error->line = std::max(cursor.number, 1);
     error->message = message;
-    root_ = Key();
-    root_.name = rootName_;
+    m_root = Key();
+    m_root.name = m_rootName;
     return false;
 }
 
 std::string RegistryHive::ToText() const {
     std::string out;
-    out.reserve(TextSizeEstimate(root_));
+    out.reserve(TextSizeEstimate(m_root));
     out += kFileHeader;
     out += "\n\n";
-    if (!root_.values.empty()) AppendSection(out, rootName_, root_);
-    AppendSubkeys(out, rootName_, root_);
+    if (!m_root.values.empty()) AppendSection(out, m_rootName, m_root);
+    AppendSubkeys(out, m_rootName, m_root);
     return out;
 }
 

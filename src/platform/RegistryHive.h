@@ -53,9 +53,9 @@ public:
 
     explicit RegistryHive(std::string rootName);
 
-    const std::string& RootName() const { return rootName_; }
-    const Key& Root() const { return root_; }
-    Key& Root() { return root_; }
+    const std::string& RootName() const { return m_rootName; }
+    const Key& Root() const { return m_root; }
+    Key& Root() { return m_root; }
 
     // The key at path, or null. With canonical not null, it receives the
     // names as stored (their original case).
@@ -87,8 +87,8 @@ public:
     static int CompareNames(std::string_view a, std::string_view b);
 
 private:
-    std::string rootName_;
-    Key root_;
+    std::string m_rootName;
+    Key m_root;
 };
 
 }  // namespace platform

@@ -89,7 +89,7 @@ public:
     }
 
 private:
-    void* handle_ = nullptr;
+    void* m_handle = nullptr;
 };
 
 }  // namespace platform

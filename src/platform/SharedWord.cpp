@@ -33,24 +33,24 @@ uint32_t* ProcessWord(const std::string& name, bool* created) {
 
 }  // namespace
 
-SharedWord::SharedWord(std::string name) : name_(std::move(name)) {
-    shared_ = MapShared();
-    if (shared_) return;
+SharedWord::SharedWord(std::string name) : m_name(std::move(name)) {
+    m_shared = MapShared();
+    if (m_shared) return;
     const int error = errno;
     bool created = false;
-    word_ = ProcessWord(name_, &created);
+    m_word = ProcessWord(m_name, &created);
     if (created) {
-        ReportProblem("shared word " + name_ + " is not available (" + std::strerror(error) +
+        ReportProblem("shared word " + m_name + " is not available (" + std::strerror(error) +
                       "); it is kept in this process only");
     }
 }
 
 SharedWord::~SharedWord() {
-    if (shared_) munmap(word_, sizeof(uint32_t));
+    if (m_shared) munmap(m_word, sizeof(uint32_t));
 }
 
 bool SharedWord::MapShared() {
-    const int fd = shm_open(name_.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, 0600);
+    const int fd = shm_open(m_name.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, 0600);
     if (fd < 0) return false;
     // Every process grows a new object to four bytes; growing an object that
     // already has them is skipped, so a word another process set stays intact.
@@ -67,19 +67,19 @@ bool SharedWord::MapShared() {
     close(fd);
     errno = error;
     if (mapping == MAP_FAILED) return false;
-    word_ = static_cast<uint32_t*>(mapping);
+    m_word = static_cast<uint32_t*>(mapping);
     return true;
 }
 
-uint32_t SharedWord::Load() const { return std::atomic_ref<uint32_t>(*word_).load(); }
+uint32_t SharedWord::Load() const { return std::atomic_ref<uint32_t>(*m_word).load(); }
 
 uint32_t SharedWord::Exchange(uint32_t value) {
-    return std::atomic_ref<uint32_t>(*word_).exchange(value);
+    return std::atomic_ref<uint32_t>(*m_word).exchange(value);
 }
 
-bool SharedWord::IsShared() const { return shared_; }
+bool SharedWord::IsShared() const { return m_shared; }
 
-const std::string& SharedWord::name() const { return name_; }
+const std::string& SharedWord::name() const { return m_name; }
 
 bool SharedWord::Remove(const std::string& name) { return shm_unlink(name.c_str()) == 0; }
 

@@ -45,9 +45,9 @@ public:
 private:
     bool MapShared();
 
-    std::string name_;
-    uint32_t* word_ = nullptr;  // the mapped word, or the process's word of the name
-    bool shared_ = false;
+    std::string m_name;
+    uint32_t* m_word = nullptr;  // the mapped word, or the process's word of the name
+    bool m_shared = false;
 };
 
 }  // namespace platform

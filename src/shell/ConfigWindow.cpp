@@ -37,8 +37,8 @@ bool BringConfigWindowForward(uint32_t token) {
 }
 
 ConfigWindowRegistration::ConfigWindowRegistration(QWidget* window)
-    : beacon_(std::make_unique<WindowBeacon>(window)) {
-    ConfigWindowWord().Exchange(beacon_->Token());
+    : m_beacon(std::make_unique<WindowBeacon>(window)) {
+    ConfigWindowWord().Exchange(m_beacon->Token());
 }
 
 ConfigWindowRegistration::~ConfigWindowRegistration() = default;

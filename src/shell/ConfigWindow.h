@@ -31,5 +31,5 @@ public:
     ConfigWindowRegistration& operator=(const ConfigWindowRegistration&) = delete;
 
 private:
-    std::unique_ptr<WindowBeacon> beacon_;
+    std::unique_ptr<WindowBeacon> m_beacon;
 };

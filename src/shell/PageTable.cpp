@@ -10,22 +10,22 @@ size_t Slot(int id) { return static_cast<size_t>(id); }
 
 }  // namespace
 
-CPageTable::CPageTable(PageFactory factory) : factory_(std::move(factory)) {}
+CPageTable::CPageTable(PageFactory factory) : m_factory(std::move(factory)) {}
 
 CPageTable::~CPageTable() { DestroyAll(); }
 
 CSettingsPage* CPageTable::Find(int id) const {
-    return IsPageId(id) ? pages_[Slot(id)].data() : nullptr;
+    return IsPageId(id) ? m_pages[Slot(id)].data() : nullptr;
 }
 
 CSettingsPage* CPageTable::Create(int id, uint32_t flags, QWidget* parent) {
     if (!IsPageId(id)) return nullptr;
     Destroy(id);
-    std::unique_ptr<CSettingsPage> page = factory_ ? factory_(id) : nullptr;
+    std::unique_ptr<CSettingsPage> page = m_factory ? m_factory(id) : nullptr;
     if (!page) return nullptr;
     page->SetFlags(flags);
     if (!page->Create(parent)) return nullptr;
-    pages_[Slot(id)] = page.get();
+    m_pages[Slot(id)] = page.get();
     return page.release();  // owned by its slot (and its parent window) from now on
 }
 
@@ -37,8 +37,8 @@ CSettingsPage* CPageTable::Attach(int id, QWidget* parent) {
 
 void CPageTable::Destroy(int id) {
     if (!IsPageId(id)) return;
-    delete pages_[Slot(id)].data();
-    pages_[Slot(id)] = nullptr;
+    delete m_pages[Slot(id)].data();
+    m_pages[Slot(id)] = nullptr;
 }
 
 void CPageTable::DestroyAll() {

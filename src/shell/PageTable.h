@@ -49,6 +49,6 @@ public:
     static std::string TitleOf(int id);
 
 private:
-    PageFactory factory_;
-    std::array<QPointer<CSettingsPage>, kPageCount> pages_{};
+    PageFactory m_factory;
+    std::array<QPointer<CSettingsPage>, kPageCount> m_pages{};
 };

@@ -46,7 +46,7 @@ void CFeatureSwitchPage::BindControls() {
     m_bind.Owns(kMessengerSelect, kMessengerAutoRecognition);
     m_bind.Owns(kMessengerExtra, kExtraMessengers);
     m_bind.Owns(kStartupExtra, kExtraStartupItems);
-    m_bind.Owns(kScanMask, 0xFFFFFFFF);
+    m_bind.Owns(kScanMask, kWholeWord);
 }
 
 bool CFeatureSwitchPage::IsLight() const { return (m_flags & DMF_IsLight) != 0; }

@@ -25,7 +25,7 @@ std::vector<CSwitchPage::Row> CMailSwitchPage::Rows() {
 void CMailSwitchPage::BindControls() {
     CSwitchPage::BindControls();
     // The light edition leaves the mail mask alone.
-    if (PageSwitchMasks(m_flags).scanMail) m_bind.Owns(kMailMask, 0xFFFFFFFF);
+    if (PageSwitchMasks(m_flags).scanMail) m_bind.Owns(kMailMask, kWholeWord);
 }
 
 void CMailSwitchPage::PrepareControls() {
