@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Scans files received through instant messenger programs.</source>
-        <translation>Prüft Dateien, die über Instant-Messenger-Programme empfangen werden.</translation>
+        <translation>Prüft über Instant-Messenger-Programme empfangene Dateien.</translation>
     </message>
     <message>
         <source>Startup Program Monitoring</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Adds a scan command to the shortcut menus of files and folders.</source>
-        <translation>Fügt den Kontextmenüs von Dateien und Ordnern einen Prüfbefehl hinzu.</translation>
+        <translation>Fügt den Datei- und Ordnerkontextmenüs einen Prüfbefehl hinzu.</translation>
     </message>
     <message>
         <source>Toolbars</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Adds a scan button to the toolbars of file browser windows.</source>
-        <translation>Fügt den Symbolleisten der Dateimanager-Fenster eine Prüfschaltfläche hinzu.</translation>
+        <translation>Fügt den Dateimanager-Symbolleisten eine Prüfschaltfläche hinzu.</translation>
     </message>
     <message>
         <source>Protects office documents against macro viruses.</source>

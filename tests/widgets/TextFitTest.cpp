@@ -1,0 +1,166 @@
+// Every text of every form is shown whole, in every language: a label, check
+// box, radio button or push button that keeps its text on one line is at
+// least as wide as the text (with the check indicator) needs, and a label
+// that wraps its text is tall enough for the lines it wraps into. Forms are
+// the built pages of the registry and the shells' templates.
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "SwitchPageTest.h"
+#include "UiLanguages.h"
+#include "framework/DialogTemplates.h"
+#include "pages/PageRegistry.h"
+#include "pages/SettingsPage.h"
+
+namespace {
+
+struct TextFitResult {
+    int measured = 0;                  // controls with a text
+    std::vector<std::string> clipped;  // "name \"text\" needs width 449 px, has 424"
+};
+
+void NoteIfClipped(TextFitResult& result, const QWidget* control, const QString& text,
+                   const char* what, int needed, int room) {
+    ++result.measured;
+    if (needed <= room) return;
+    result.clipped.push_back(control->objectName().toStdString() + " \"" + text.toStdString() +
+                             "\" needs " + what + " " + std::to_string(needed) + " px, has " +
+                             std::to_string(room));
+}
+
+// Measures the text of every label and text button of form.
+TextFitResult MeasureTextsOf(const QWidget& form) {
+    TextFitResult result;
+    for (const QWidget* control : form.findChildren<QWidget*>()) {
+        if (const auto* label = qobject_cast<const QLabel*>(control)) {
+            if (label->text().isEmpty()) continue;
+            if (label->wordWrap()) {
+                NoteIfClipped(result, label, label->text(), "height",
+                              label->heightForWidth(label->width()), label->height());
+            } else {
+                NoteIfClipped(result, label, label->text(), "width", label->sizeHint().width(),
+                              label->width());
+            }
+            continue;
+        }
+        const bool textButton = qobject_cast<const QCheckBox*>(control) != nullptr ||
+                                qobject_cast<const QRadioButton*>(control) != nullptr ||
+                                qobject_cast<const QPushButton*>(control) != nullptr;
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        if (!textButton || button->text().isEmpty()) continue;
+        NoteIfClipped(result, button, button->text(), "width", button->sizeHint().width(),
+                      button->width());
+    }
+    return result;
+}
+
+// The measure itself: it finds what is clipped and passes what is not.
+TEST(TextFitMeasure, FindsClippedTextsOfEachKind) {
+    const QString text = "A description long enough to need more than one short line";
+    QWidget form;
+    auto* narrowLabel = new QLabel(text, &form);
+    narrowLabel->setObjectName("narrowLabel");
+    narrowLabel->setGeometry(0, 0, 100, 18);
+    auto* shortWrapped = new QLabel(text, &form);
+    shortWrapped->setObjectName("shortWrapped");
+    shortWrapped->setWordWrap(true);
+    shortWrapped->setGeometry(0, 20, 200, 18);
+    auto* narrowBox = new QCheckBox(text, &form);
+    narrowBox->setObjectName("narrowBox");
+    narrowBox->setGeometry(0, 40, 100, 20);
+    auto* narrowRadio = new QRadioButton(text, &form);
+    narrowRadio->setObjectName("narrowRadio");
+    narrowRadio->setGeometry(0, 60, 100, 20);
+    auto* narrowButton = new QPushButton(text, &form);
+    narrowButton->setObjectName("narrowButton");
+    narrowButton->setGeometry(0, 80, 100, 26);
+    // A check box exactly as wide as its text: the indicator is counted.
+    auto* boxForText = new QLabel(text, &form);
+    boxForText->setObjectName("boxForText");
+    boxForText->setGeometry(0, 110, boxForText->sizeHint().width(), 18);
+    auto* boxAsText = new QCheckBox(text, &form);
+    boxAsText->setObjectName("boxAsText");
+    boxAsText->setGeometry(0, 130, boxForText->width(), 20);
+
+    const TextFitResult result = MeasureTextsOf(form);
+    EXPECT_EQ(result.measured, 7);
+    ASSERT_EQ(result.clipped.size(), 6U);
+    const std::vector<std::string> names = {"narrowLabel", "shortWrapped", "narrowBox",
+                                            "narrowRadio", "narrowButton", "boxAsText"};
+    for (size_t i = 0; i < names.size(); ++i)
+        EXPECT_EQ(result.clipped[i].rfind(names[i] + " \"", 0), 0U) << result.clipped[i];
+}
+
+TEST(TextFitMeasure, PassesTextsThatFit) {
+    QWidget form;
+    auto* label = new QLabel("Short", &form);
+    label->setGeometry(0, 0, label->sizeHint().width(), 18);
+    auto* wrapped = new QLabel("Two words", &form);
+    wrapped->setWordWrap(true);
+    wrapped->setGeometry(0, 20, 300, 60);
+    auto* box = new QCheckBox("Short", &form);
+    box->setGeometry(0, 80, box->sizeHint().width(), 20);
+    auto* button = new QPushButton("OK", &form);
+    button->setGeometry(0, 100, 88, 26);
+    const TextFitResult result = MeasureTextsOf(form);
+    EXPECT_EQ(result.measured, 4);
+    EXPECT_TRUE(result.clipped.empty()) << result.clipped.front();
+}
+
+class TextFitTest : public SwitchPageTest, public testing::WithParamInterface<UiLanguage> {
+protected:
+    // Reports each clipped text with the form and the language.
+    void CheckForm(const QWidget& form, int formId) const {
+        const TextFitResult result = MeasureTextsOf(form);
+        EXPECT_GT(result.measured, 0) << "form " << formId << " has no text to measure";
+        for (const std::string& clipped : result.clipped)
+            ADD_FAILURE() << "form " << formId << ", " << GetParam().name << ": " << clipped;
+    }
+};
+
+TEST_P(TextFitTest, EveryTextOfEveryFormFitsItsControl) {
+    ScopedUiLanguage language(GetParam());
+    ASSERT_TRUE(language.Loaded()) << GetParam().file;
+
+    int pages = 0;
+    for (const PageRow& row : PageRows()) {
+        if (row.make == nullptr) continue;
+        std::unique_ptr<CSettingsPage> page = row.make();
+        ASSERT_TRUE(page->Create(&m_parent)) << "page " << ToInt(row.id);
+        CheckForm(*page, row.templateId);
+        ++pages;
+    }
+    EXPECT_GT(pages, 0);
+    for (int shell : kShellTemplates) {
+        QWidget form;
+        ASSERT_TRUE(BuildDialogTemplate(shell, &form)) << shell;
+        CheckForm(form, shell);
+    }
+}
+
+std::string TextFitLanguageName(const testing::TestParamInfo<UiLanguage>& info) {
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TextFitTest, testing::ValuesIn(UiLanguages()),
+                         TextFitLanguageName);
+
+// The languages above come from the build's folder; German must be among
+// them, or a missing folder would leave English alone judged.
+TEST(TextFitLanguages, TheGermanTranslationIsAmongThem) {
+    bool german = false;
+    for (const UiLanguage& language : UiLanguages()) {
+        if (language.name == kGermanTranslationName) german = true;
+    }
+    EXPECT_TRUE(german) << Q9_TRANSLATION_DIR;
+}
+
+}  // namespace
