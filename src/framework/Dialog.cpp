@@ -14,7 +14,7 @@ CDialog::CDialog(int templateId, QWidget* parent)
 
 bool CDialog::Create() {
     if (!m_built) {
-        if (!BuildDialogTemplate(m_templateId, this)) return false;
+        if (!BuildControls()) return false;
         m_built = true;
         ctl::ConnectControls(this, [this](int id, ctl::Notification code) {
             if (code == ctl::Notification::kClicked &&
@@ -38,6 +38,8 @@ int CDialog::DoModal() {
 void CDialog::EndDialog(int result) { done(result); }
 
 QWidget* CDialog::Control(int id) const { return ctl::Find(this, id); }
+
+bool CDialog::BuildControls() { return BuildDialogTemplate(m_templateId, this); }
 
 int CDialog::DefaultButtonId() const {
     for (QWidget* control : ctl::Children(this)) {

@@ -42,6 +42,8 @@ public:
     virtual int32_t OnPowerBroadcast(int32_t event);
 
 protected:
+    // Makes the dialog's controls; by default from its template by id.
+    virtual bool BuildControls();
     // After the controls exist; the value is what the platform's start-up
     // step answers (whether focus was left alone).
     virtual bool OnInitDialog();

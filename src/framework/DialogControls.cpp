@@ -72,8 +72,10 @@ void SetCheck(QWidget* dialog, int id, int state) {
 
 std::string GetText(const QWidget* dialog, int id) {
     const QWidget* control = Find(dialog, id);
-    if (const auto* edit = qobject_cast<const QLineEdit*>(control)) return edit->text().toStdString();
-    if (const auto* label = qobject_cast<const QLabel*>(control)) return label->text().toStdString();
+    if (const auto* edit = qobject_cast<const QLineEdit*>(control))
+        return edit->text().toStdString();
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->text().toStdString();
     if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
         return button->text().toStdString();
     }

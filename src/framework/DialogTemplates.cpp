@@ -3,26 +3,10 @@
 #include <QWidget>
 #include <map>
 
-#include "ui_Dialog1001.h"
-#include "ui_Dialog102.h"
-
 namespace {
 
-// A compiled form as a template: the form object only builds the widgets,
-// which belong to the target from then on.
-template <typename Form>
-TemplateBuilder FormTemplate() {
-    return [](QWidget* target) {
-        Form form;
-        form.setupUi(target);
-    };
-}
-
 std::map<int, TemplateBuilder>& Templates() {
-    static std::map<int, TemplateBuilder> templates = {
-        {102, FormTemplate<Ui::Dialog102>()},
-        {1001, FormTemplate<Ui::Dialog1001>()},
-    };
+    static std::map<int, TemplateBuilder> templates;
     return templates;
 }
 

@@ -2,9 +2,9 @@
 
 // Dialog templates by resource id: each builds the controls of one dialog,
 // with their control ids, captions and positions, into a widget. The
-// program's own are the shells' Qt Designer forms; a settings page builds
-// its own form instead (CFormPage). More can be registered (tests do, for
-// pages of their own).
+// program's own dialogs and pages build their uic forms themselves
+// (CFormDialog, CFormPage); templates are registered here by those who make
+// dialogs without a form of their own, such as tests.
 
 #include <functional>
 

@@ -53,13 +53,9 @@ ImageList ImageList::PageIcons() {
     return ImageList(QStringLiteral(":/pictures/1022.bmp"), kPageIconCellSize);
 }
 
-int ImageList::Count() const {
-    return m_strip.isNull() ? 0 : m_strip.width() / m_cellSize;
-}
+int ImageList::Count() const { return m_strip.isNull() ? 0 : m_strip.width() / m_cellSize; }
 
-int ImageList::CellSize() const {
-    return m_cellSize;
-}
+int ImageList::CellSize() const { return m_cellSize; }
 
 QPixmap ImageList::Pixmap(int index) const {
     if (index < 0 || index >= Count()) {

@@ -1,12 +1,12 @@
 #include "framework/QtMessageService.h"
 
-#include "framework/GuiApplication.h"
-
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
 #include <vector>
+
+#include "framework/GuiApplication.h"
 
 namespace {
 
@@ -20,12 +20,10 @@ std::vector<Button> ButtonsFor(uint32_t type) {
             return {{QMessageBox::Yes, msg::kIdYes},
                     {QMessageBox::No, msg::kIdNo},
                     {QMessageBox::Cancel, msg::kIdCancel}};
-        case msg::kYesNo:
-            return {{QMessageBox::Yes, msg::kIdYes}, {QMessageBox::No, msg::kIdNo}};
+        case msg::kYesNo: return {{QMessageBox::Yes, msg::kIdYes}, {QMessageBox::No, msg::kIdNo}};
         case msg::kRetryCancel:
             return {{QMessageBox::Retry, msg::kIdRetry}, {QMessageBox::Cancel, msg::kIdCancel}};
-        default:
-            return {{QMessageBox::Ok, msg::kIdOk}};
+        default: return {{QMessageBox::Ok, msg::kIdOk}};
     }
 }
 

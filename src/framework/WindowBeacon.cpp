@@ -1,21 +1,19 @@
 #include "framework/WindowBeacon.h"
 
 #include <sys/stat.h>
-#include <cerrno>
-#include <unistd.h>
-
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTimer>
 #include <QWidget>
 #include <bitset>
+#include <cerrno>
 #include <mutex>
 #include <optional>
 
@@ -67,7 +65,8 @@ bool AskInEventLoop(const QString& path) {
     limit.setSingleShot(true);
     QByteArray answer;
     QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QObject::connect(&socket, &QLocalSocket::connected, &loop, [&socket] { socket.write(kRequest); });
+    QObject::connect(&socket, &QLocalSocket::connected, &loop,
+                     [&socket] { socket.write(kRequest); });
     QObject::connect(&socket, &QLocalSocket::readyRead, &loop, [&] {
         answer += socket.readAll();
         if (answer.contains('\n')) loop.quit();
@@ -103,7 +102,8 @@ WindowBeacon::WindowBeacon(QWidget* window) : m_window(window), m_server(new QLo
     connect(m_server, &QLocalServer::newConnection, this, &WindowBeacon::AcceptConnections);
     const std::optional<uint32_t> serial = TakeSerial();
     if (!serial) {
-        platform::ReportProblem("cannot listen for window requests: too many windows in this process");
+        platform::ReportProblem(
+            "cannot listen for window requests: too many windows in this process");
         return;
     }
     const uint32_t token = TokenOf(*serial);

@@ -25,5 +25,5 @@ protected:
         return true;
     }
 
-    Form m_ui;
+    Form m_ui{};  // every control null until BuildControls
 };

@@ -30,6 +30,3 @@ const PageRow& PageRowOf(PageId id);
 // The template of a page: the schedule scan page has a second template on NT
 // hosts.
 int PageTemplate(PageId id, bool isNT);
-
-// The templates of the forms that are not pages: the shells' dialogs.
-constexpr std::array<int, 2> kShellTemplates = {102, 1001};

@@ -28,7 +28,7 @@ int PageOf(const QTreeWidgetItem* item) { return item ? item->data(0, Qt::UserRo
 }  // namespace
 
 CConfigDlg::CConfigDlg(int startPage, uint32_t flags, QWidget* parent, PageFactory factory)
-    : CDialog(kTemplateId, parent),
+    : CFormDialog(kTemplateId, parent),
       m_treeImages(ImageList::TreeImages()),
       m_pageIcons(ImageList::PageIcons()),
       m_pages(std::move(factory)),
@@ -42,10 +42,9 @@ CConfigDlg::~CConfigDlg() {
 
 bool CConfigDlg::OnInitDialog() {
     m_window = std::make_unique<ConfigWindowRegistration>(this);
-    m_tree = qobject_cast<QTreeWidget*>(Control(kTreeControl));
-    m_header = dynamic_cast<CHeaderStatic*>(Control(kHeaderControl));
-    m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(m_tree, &QTreeWidget::itemSelectionChanged, this, [this] { OnSelectionChanged(); });
+    m_ui.pageTree->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(m_ui.pageTree, &QTreeWidget::itemSelectionChanged, this,
+            [this] { OnSelectionChanged(); });
     BeginStoreEdit();
     BuildTree();
     return true;
@@ -77,15 +76,15 @@ void CConfigDlg::BuildTree() {
         if (ToInt(row->page) == m_startPage && !toSelect) toSelect = item;
         if (row->kind == TreeRowKind::kGroup) parent = item;
     }
-    m_tree->addTopLevelItems(topLevel);
+    m_ui.pageTree->addTopLevelItems(topLevel);
     // Expanding needs the rows in the tree.
     for (QTreeWidgetItem* group : closed) group->setExpanded(true);
-    if (toSelect) m_tree->setCurrentItem(toSelect);
+    if (toSelect) m_ui.pageTree->setCurrentItem(toSelect);
 }
 
 void CConfigDlg::OnSelectionChanged() {
     if (m_reverting) return;
-    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
+    const QList<QTreeWidgetItem*> selected = m_ui.pageTree->selectedItems();
     QTreeWidgetItem* item = selected.isEmpty() ? nullptr : selected.first();
     if (item == m_selected) return;
     if (!LeaveCurrentPage()) {
@@ -100,9 +99,9 @@ void CConfigDlg::OnSelectionChanged() {
 void CConfigDlg::SelectWithoutSwitch(QTreeWidgetItem* item) {
     m_reverting = true;
     if (item) {
-        m_tree->setCurrentItem(item);
+        m_ui.pageTree->setCurrentItem(item);
     } else {
-        m_tree->clearSelection();
+        m_ui.pageTree->clearSelection();
     }
     m_reverting = false;
 }
@@ -136,9 +135,9 @@ void CConfigDlg::EnterPage(QTreeWidgetItem* item) {
     if (CSettingsPage* page = ShowNewPage(id)) {
         page->show();
         page->repaint();
-        ctl::Enable(this, kDefaultButton, page->CanDefault() != 0);
+        m_ui.defaultButton->setEnabled(page->CanDefault() != 0);
     }
-    m_header->SetText(item->text(0));
+    m_ui.headerBar->SetText(item->text(0));
     if (m_dlgFlags & DMF_TitleShowsPage) {
         const QString caption =
             QString::fromStdString(LoadString(strings::kApplicationName)) + ": " + item->text(0);
@@ -156,7 +155,7 @@ CSettingsPage* CConfigDlg::ShowNewPage(int id) {
     }
     CSettingsPage* page = m_pages.Create(id, m_dlgFlags, this);
     if (!page) return nullptr;
-    const QRect bar = m_header->geometry();
+    const QRect bar = m_ui.headerBar->geometry();
     page->SetIcons(&m_pageIcons);
     page->move(bar.left(), bar.top() + bar.height() + kPageGap);
     page->setEnabled(true);

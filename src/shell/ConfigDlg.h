@@ -8,21 +8,18 @@
 #include <cstdint>
 #include <memory>
 
-#include "framework/Dialog.h"
+#include "framework/FormDialog.h"
 #include "framework/ImageList.h"
 #include "shell/PageTable.h"
+#include "ui_Dialog102.h"
 
-class CHeaderStatic;
 class ConfigWindowRegistration;
-class QTreeWidget;
 class QTreeWidgetItem;
 
-class CConfigDlg : public CDialog {
+class CConfigDlg : public CFormDialog<Ui::Dialog102> {
 public:
     static constexpr int kTemplateId = 102;
     static constexpr int kDefaultButton = 1034;
-    static constexpr int kTreeControl = 1000;
-    static constexpr int kHeaderControl = 1039;
 
     CConfigDlg(int startPage, uint32_t flags, QWidget* parent,
                PageFactory factory = CPageTable::ProgramPages());
@@ -31,8 +28,8 @@ public:
     // The page shown last; -1 while none was shown.
     int CurrentPage() const { return m_curPage; }
     CPageTable& Pages() { return m_pages; }
-    QTreeWidget* Tree() const { return m_tree; }
-    CHeaderStatic* Header() const { return m_header; }
+    QTreeWidget* Tree() const { return m_ui.pageTree; }
+    CHeaderStatic* Header() const { return m_ui.headerBar; }
 
     void OnCommand(int id) override;
     // The private message that destroys the page objects (from id 40 down to
@@ -54,8 +51,6 @@ private:
     CSettingsPage* ShowNewPage(int id);
     void ApplyPages();
 
-    CHeaderStatic* m_header = nullptr;
-    QTreeWidget* m_tree = nullptr;
     ImageList m_treeImages;
     ImageList m_pageIcons;
     CPageTable m_pages;

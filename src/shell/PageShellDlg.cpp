@@ -18,7 +18,7 @@ constexpr int kButtonSpacing = 8;
 }  // namespace
 
 CPageShellDlg::CPageShellDlg(int pageId, uint32_t flags, QWidget* parent, PageFactory factory)
-    : CDialog(kTemplateId, parent),
+    : CFormDialog(kTemplateId, parent),
       m_pageId(pageId),
       m_dlgFlags(flags),
       m_pages(std::move(factory)),
@@ -47,10 +47,10 @@ bool CPageShellDlg::OnInitDialog() {
 // defaults, OK and Cancel take the two places at the right and Default is
 // hidden. The dialog takes the size that holds both, centred on its parent.
 void CPageShellDlg::Arrange(CSettingsPage* page) {
-    QWidget* byDefault = Control(kDefaultButton);
+    QWidget* byDefault = m_ui.defaultButton;
     const bool hasDefault = !page || page->CanDefault() != 0;
     byDefault->setVisible(hasDefault);
-    std::vector<QWidget*> row = {Control(1), Control(2)};
+    std::vector<QWidget*> row = {m_ui.okButton, m_ui.cancelButton};
     if (hasDefault) row.push_back(byDefault);
 
     int rowWidth = -kButtonSpacing;

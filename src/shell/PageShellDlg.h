@@ -7,13 +7,14 @@
 #include <cstdint>
 #include <memory>
 
-#include "framework/Dialog.h"
+#include "framework/FormDialog.h"
 #include "framework/ImageList.h"
 #include "shell/PageTable.h"
+#include "ui_Dialog1001.h"
 
 class ConfigWindowRegistration;
 
-class CPageShellDlg : public CDialog {
+class CPageShellDlg : public CFormDialog<Ui::Dialog1001> {
 public:
     static constexpr int kTemplateId = 1001;
     static constexpr int kDefaultButton = 1034;

@@ -3,6 +3,7 @@
 // its own bits of the store, in every edition.
 
 #include <QWidget>
+#include <array>
 #include <filesystem>
 #include <map>
 #include <ostream>
@@ -16,8 +17,14 @@
 #include "pages/PageRegistry.h"
 #include "q9cfgul.h"
 #include "session/StoreCommit.h"
+#include "shell/ConfigDlg.h"
+#include "shell/PageShellDlg.h"
 
 namespace {
+
+// The forms that are not pages: the shells' dialogs.
+constexpr std::array<int, 2> kShellTemplates = {CConfigDlg::kTemplateId,
+                                                CPageShellDlg::kTemplateId};
 
 std::vector<PageRow> BuiltRows() {
     std::vector<PageRow> rows;

@@ -12,7 +12,9 @@
 #include "framework/Dialog.h"
 #include "framework/DialogControls.h"
 #include "framework/DialogTemplates.h"
+#include "framework/FormDialog.h"
 #include "pages/SettingsPage.h"
+#include "shell/PageShellDlg.h"
 
 namespace {
 
@@ -167,9 +169,15 @@ TEST_F(SettingsPageTest, TheRangeHandlerHearsIdsFromTen) {
 }
 
 // A shell with an OK that is its default button, holding a recording page.
+// A dialog with the single-page shell's buttons and nothing else.
+class ButtonsDialog : public CFormDialog<Ui::Dialog1001> {
+public:
+    ButtonsDialog() : CFormDialog(CPageShellDlg::kTemplateId, nullptr) {}
+};
+
 class PageKeysTest : public testing::Test {
 protected:
-    PageKeysTest() : shell(1001, nullptr), page(3, &log) {
+    PageKeysTest() : page(3, &log) {
         RecordingPage::RegisterTemplate();
         EXPECT_TRUE(shell.Create());
         EXPECT_TRUE(page.Create(&shell));
@@ -178,7 +186,7 @@ protected:
     }
 
     PageLog log;
-    CDialog shell;
+    ButtonsDialog shell;
     RecordingPage page;
 };
 
