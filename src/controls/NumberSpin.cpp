@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "controls/GroupedNumber.h"
 #include "text/GroupedText.h"
 
 CNumberSpin::CNumberSpin(QWidget* parent) : QWidget(parent) {
@@ -53,10 +52,13 @@ QLineEdit* CNumberSpin::GetBuddy() const { return m_buddy; }
 
 void CNumberSpin::StepBy(int32_t steps) {
     if (!m_buddy) return;
+    // Raised to the low end of the range, then lowered to its high end, as
+    // the field shows every number.
     const int64_t next = int64_t{ParseGroupedNumber(m_buddy->text().toStdString())} + steps;
-    const int32_t value = static_cast<int32_t>(std::clamp<int64_t>(next, INT32_MIN, INT32_MAX));
-    SetGroupedNumber(this, value);
-    emit stepped(ParseGroupedNumber(m_buddy->text().toStdString()));
+    const auto value =
+        static_cast<int32_t>(std::min<int64_t>(std::max<int64_t>(next, m_low), m_high));
+    m_buddy->setText(QString::fromStdString(FormatGroupedNumber(value)));
+    emit stepped(value);
 }
 
 bool CNumberSpin::eventFilter(QObject* watched, QEvent* event) {

@@ -3,11 +3,11 @@
 // its own bits of the store, in every edition.
 
 #include <QWidget>
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <map>
 #include <ostream>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -36,13 +36,17 @@ std::vector<PageRow> BuiltRows() {
 
 // The template ids of the forms in the sources.
 std::set<int> FormTemplates() {
-    static const std::regex kFormName(R"(Dialog(\d+)\.ui)");
+    const std::string prefix = "Dialog";
     std::set<int> ids;
     const auto folder = std::filesystem::path(Q9_SOURCE_DIR) / "src/resources/forms";
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        std::smatch match;
-        const std::string name = entry.path().filename();
-        if (std::regex_match(name, match, kFormName)) ids.insert(std::stoi(match[1]));
+        const std::string stem = entry.path().stem();
+        const std::string number = stem.substr(std::min(prefix.size(), stem.size()));
+        const bool isForm = entry.path().extension() == ".ui" && stem.rfind(prefix, 0) == 0 &&
+                            !number.empty() &&
+                            number.find_first_not_of("0123456789") == std::string::npos;
+        EXPECT_TRUE(isForm) << "not a form's name: " << entry.path().filename();
+        if (isForm) ids.insert(std::stoi(number));
     }
     return ids;
 }

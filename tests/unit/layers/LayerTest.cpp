@@ -8,8 +8,9 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
+#include <optional>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -41,15 +42,24 @@ struct Include {
     bool angled;
 };
 
+// The include of a line, if it has one: #include <...> or #include "...".
+std::optional<Include> IncludeOf(const std::string& line) {
+    std::istringstream words(line);
+    std::string directive;
+    std::string target;
+    words >> directive >> target;
+    if (directive != "#include" || target.size() < 3) return std::nullopt;
+    const bool angled = target.front() == '<' && target.back() == '>';
+    const bool quoted = target.front() == '"' && target.back() == '"';
+    if (!angled && !quoted) return std::nullopt;
+    return Include{target.substr(1, target.size() - 2), angled};
+}
+
 std::vector<Include> IncludesOf(const fs::path& file) {
-    static const std::regex kInclude(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
     std::vector<Include> includes;
     std::ifstream in(file);
-    std::string line;
-    std::smatch match;
-    while (std::getline(in, line)) {
-        if (std::regex_search(line, match, kInclude))
-            includes.push_back({match[2], match[1] == "<"});
+    for (std::string line; std::getline(in, line);) {
+        if (const auto include = IncludeOf(line)) includes.push_back(*include);
     }
     return includes;
 }
