@@ -1,30 +1,10 @@
 #include "session/MailAccounts.h"
 
-#include <utility>
-
-MailAccounts::~MailAccounts() { Free(); }
-
-MailAccounts::MailAccounts(MailAccounts&& other) noexcept
-    : m_library(std::move(other.m_library)), m_handle(std::exchange(other.m_handle, nullptr)) {}
-
-MailAccounts& MailAccounts::operator=(MailAccounts&& other) noexcept {
-    if (this != &other) {
-        Free();
-        m_library = std::move(other.m_library);
-        m_handle = std::exchange(other.m_handle, nullptr);
-    }
-    return *this;
-}
-
 MailAccounts MailAccounts::Create() {
     MailAccounts accounts;
-    accounts.m_handle = accounts.m_library.Create();
-    // Without an object there is nothing to keep the library loaded for.
-    if (!accounts.m_handle) accounts.m_library.Release();
+    accounts.Make();
     return accounts;
 }
-
-bool MailAccounts::IsEmpty() const { return m_handle == nullptr; }
 
 int32_t MailAccounts::Read() { return m_handle ? m_library.ReadAccounts(m_handle) : 0; }
 
@@ -48,9 +28,4 @@ int32_t MailAccounts::SetProtected(int32_t index, uint32_t on) {
 
 std::string MailAccounts::ClientName(int32_t index) {
     return m_handle ? m_library.ClientName(m_handle, index) : std::string();
-}
-
-void MailAccounts::Free() {
-    if (m_handle) m_library.Free(std::exchange(m_handle, nullptr));
-    m_library.Release();
 }

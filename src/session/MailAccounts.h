@@ -1,35 +1,19 @@
 #pragma once
 
-// One account object of the mail accounts library, owned: the object is
-// freed with the library's own Free when this goes, exactly once, whether it
-// goes out of scope, is assigned over or is moved from.
-//
-// It binds the library for itself (see MailAccountsBinding), so the library
-// stays loaded for as long as the object lives, even across
-// CSiblingLibs::Release; freeing never meets an unloaded library.
-//
-// An empty MailAccounts (the library or its Create is missing, or it was
-// moved from) holds nothing, answers 0 or empty text and frees nothing.
+// One account object of the mail accounts library, owned (see
+// OwnedLibraryObject): freed with the library's own Free exactly once. An
+// empty MailAccounts answers 0 or empty text.
 
 #include <cstdint>
 #include <string>
 
 #include "session/MailAccountsBinding.h"
+#include "session/OwnedLibraryObject.h"
 
-class MailAccounts {
+class MailAccounts : public OwnedLibraryObject<MailAccountsBinding, &MailAccountsBinding::Free> {
 public:
-    MailAccounts() = default;
-    ~MailAccounts();
-
-    MailAccounts(MailAccounts&& other) noexcept;
-    MailAccounts& operator=(MailAccounts&& other) noexcept;
-    MailAccounts(const MailAccounts&) = delete;
-    MailAccounts& operator=(const MailAccounts&) = delete;
-
     // A new, unread account object of the library in g_szModuleDir.
     static MailAccounts Create();
-
-    bool IsEmpty() const;
 
     // Reads the accounts file into the object: 1 when it was read.
     int32_t Read();
@@ -41,10 +25,4 @@ public:
     int32_t SetProtected(int32_t index, uint32_t on);
     // The name of the mail client the account belongs to.
     std::string ClientName(int32_t index);
-
-private:
-    void Free();
-
-    MailAccountsBinding m_library;
-    void* m_handle = nullptr;
 };
