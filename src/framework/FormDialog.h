@@ -11,10 +11,6 @@
 
 template <typename Form>
 class CFormDialog : public CDialog {
-public:
-    // The typed controls.
-    const Form& Controls() const { return m_ui; }
-
 protected:
     using CDialog::CDialog;
 

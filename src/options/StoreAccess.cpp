@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "options/StoreKeys.h"
+#include "text/TextFormat.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ uint32_t TakeStoredBits(uint32_t section, uint32_t key, uint32_t mask, uint32_t 
     return ReplaceBits(word, Q9CfgE_GetDWEx(section, key), mask);
 }
 
-std::string StoreText(const char* text) { return text ? std::string(text) : std::string(); }
+std::string StoreText(const char* text) { return TextOrEmpty(text); }
 
 std::string ReadStoreText(uint32_t section, uint32_t key) {
     return StoreText(Q9CfgE_GetStrEx(section, key));

@@ -9,7 +9,6 @@ bool CBoundPage::OnInitDialog() {
         MarkModified();
         m_bind.ApplyEnableRules();
         UpdateEnables();
-        OnUserChanged();
     });
     PrepareControls();
     Load();

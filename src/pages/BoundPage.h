@@ -42,8 +42,6 @@ protected:
     virtual int32_t ValidateMore() { return 0; }
     // Enable rules that the binder's check box rules cannot state.
     virtual void UpdateEnables() {}
-    // A user's change to a bound control, after m_modified is set.
-    virtual void OnUserChanged() {}
 
     // The one routine behind Load and Default.
     void ShowValues(const StoreValues& values);

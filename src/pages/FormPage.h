@@ -13,10 +13,6 @@
 
 template <typename Form, typename Base = CBoundPage>
 class CFormPage : public Base {
-public:
-    // The typed controls.
-    const Form& Controls() const { return m_ui; }
-
 protected:
     using Base::Base;
 

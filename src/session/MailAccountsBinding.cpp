@@ -1,13 +1,12 @@
 #include "session/MailAccountsBinding.h"
 
 #include "session/ProcessState.h"
+#include "text/TextFormat.h"
 
 namespace {
 
 using IndexEntry = int32_t(void*, int32_t);
 using TextEntry = const char*(void*, int32_t);
-
-std::string TextOrEmpty(const char* text) { return text ? text : ""; }
 
 }  // namespace
 

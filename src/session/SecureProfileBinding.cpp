@@ -4,6 +4,7 @@
 
 #include "platform/SharedLibrary.h"
 #include "session/ProcessState.h"
+#include "text/TextFormat.h"
 
 namespace {
 
@@ -19,8 +20,6 @@ SharedLibrary LoadOrvInst() {
 }
 
 std::string ProfilePath(const char* fileName) { return g_szModuleDir + (fileName ? fileName : ""); }
-
-std::string TextOrEmpty(const char* text) { return text ? text : ""; }
 
 // The value of key, or defaultText when the library answers 0 (no value) or
 // lacks the entry point.

@@ -46,34 +46,6 @@ int32_t CSiblingLibs::HasEnoughPrivilege() { return m_registration.HasEnoughPriv
 
 MailAccounts CSiblingLibs::CreateMailAccounts() { return MailAccounts::Create(); }
 
-void* CSiblingLibs::P3Create() { return m_mailAccounts.Create(); }
-
-void CSiblingLibs::P3Free(void* accounts) { m_mailAccounts.Free(accounts); }
-
-int32_t CSiblingLibs::P3Load(void* accounts) { return m_mailAccounts.ReadAccounts(accounts); }
-
-int32_t CSiblingLibs::P3Save(void* accounts, uint32_t flags) {
-    return m_mailAccounts.SaveAccounts(accounts, flags);
-}
-
-int32_t CSiblingLibs::P3GetCount(void* accounts) { return m_mailAccounts.Count(accounts); }
-
-std::string CSiblingLibs::P3GetProfileName(void* accounts, int32_t index) {
-    return m_mailAccounts.ProfileName(accounts, index);
-}
-
-int32_t CSiblingLibs::P3GetProtected(void* accounts, int32_t index) {
-    return m_mailAccounts.IsProtected(accounts, index);
-}
-
-int32_t CSiblingLibs::P3SetProtected2(void* accounts, int32_t index, uint32_t on) {
-    return m_mailAccounts.SetProtected(accounts, index, on);
-}
-
-std::string CSiblingLibs::P3GetMUAName(void* accounts, int32_t index) {
-    return m_mailAccounts.ClientName(accounts, index);
-}
-
 // --- Instant messengers ------------------------------------------------------
 
 int32_t CSiblingLibs::GetIMInstall(int32_t index) { return m_messengers.IsInstalled(index); }
@@ -99,24 +71,6 @@ int32_t CSiblingLibs::MsgFltGetRuleCount() { return m_spamFilter.RuleCount(); }
 // --- Exclusion zone ----------------------------------------------------------
 
 ExclusionZone CSiblingLibs::CreateExclusionZone() { return ExclusionZone::Create(); }
-
-void* CSiblingLibs::DMZCreate() { return m_exclusionZone.Create(); }
-
-int32_t CSiblingLibs::DMZAdd(void* zone, const char* owner, const char* owner2,
-                             const void* records) {
-    return m_exclusionZone.Add(zone, owner, owner2, records);
-}
-
-int32_t CSiblingLibs::DMZEnum(void* zone, const char* owner, const char* owner2, void* buffer,
-                              int32_t size) {
-    return m_exclusionZone.Enumerate(zone, owner, owner2, buffer, size);
-}
-
-int32_t CSiblingLibs::DMZDelete(void* zone, const char* owner, const char* owner2) {
-    return m_exclusionZone.Delete(zone, owner, owner2);
-}
-
-void CSiblingLibs::DMZDestroy(void* zone) { m_exclusionZone.Destroy(zone); }
 
 // --- Network drives ----------------------------------------------------------
 

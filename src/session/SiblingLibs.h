@@ -76,17 +76,6 @@ public:
     // Mail accounts (Q9P3ATHL): a new account object that frees itself; empty
     // when the library is missing.
     MailAccounts CreateMailAccounts();
-    // The same on raw objects, which the caller must give back to P3Free.
-    // Texts are copied at once; empty when missing.
-    void* P3Create();
-    void P3Free(void* accounts);
-    int32_t P3Load(void* accounts);
-    int32_t P3Save(void* accounts, uint32_t flags);
-    int32_t P3GetCount(void* accounts);
-    std::string P3GetProfileName(void* accounts, int32_t index);
-    int32_t P3GetProtected(void* accounts, int32_t index);
-    int32_t P3SetProtected2(void* accounts, int32_t index, uint32_t on);
-    std::string P3GetMUAName(void* accounts, int32_t index);
 
     // Instant messengers (Q9IMcfg): non-zero when that messenger is installed.
     int32_t GetIMInstall(int32_t index);
@@ -104,13 +93,6 @@ public:
     // The shared exclusion zone (OrvDMZ): a handle that destroys itself;
     // empty when the library is missing.
     ExclusionZone CreateExclusionZone();
-    // The same on raw handles, which the caller must give back to
-    // DMZDestroy. DMZEnum returns the bytes needed.
-    void* DMZCreate();
-    int32_t DMZAdd(void* zone, const char* owner, const char* owner2, const void* records);
-    int32_t DMZEnum(void* zone, const char* owner, const char* owner2, void* buffer, int32_t size);
-    int32_t DMZDelete(void* zone, const char* owner, const char* owner2);
-    void DMZDestroy(void* zone);
 
     // Network drives (see CNetworkDrives).
     int32_t GetConnection(const char* localName, char* remoteName, uint32_t* length);

@@ -44,3 +44,5 @@ std::string FormatResource(const std::string& format, ...) {
     va_end(arguments);
     return text;
 }
+
+std::string TextOrEmpty(const char* text) { return text ? std::string(text) : std::string(); }

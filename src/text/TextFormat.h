@@ -6,6 +6,9 @@
 #include <cstddef>
 #include <string>
 
+// A copy of a text another library handed out; null gives empty text.
+std::string TextOrEmpty(const char* text);
+
 // Formats with a literal format checked by the compiler.
 std::string FormatText(const char* format, ...) __attribute__((format(printf, 1, 2)));
 

@@ -43,9 +43,9 @@ TEST_F(ReleaseTest, ReleaseFreesTheLibrariesInItsOrder) {
     AddProbes();
     // Loaded in another order than they are freed.
     g_Siblings.MsgFltGetRuleCount();
-    g_Siblings.DMZCreate();
+    g_Siblings.LoadDMZ();
     g_Siblings.GetIMInstall(0);
-    g_Siblings.P3Create();
+    g_Siblings.LoadP3Athl();
     g_Siblings.ServiceControl(1, 32, 2);
     g_Siblings.Release();
     const std::vector<std::string> expected = {"libQ9SSCtrl.so", "libQ9P3ATHL.so", "libQ9IMcfg.so",

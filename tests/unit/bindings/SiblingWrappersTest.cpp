@@ -1,6 +1,7 @@
 // The wrappers of the mail account, messenger, spam filter and exclusion zone
 // libraries, against the built libraries, without them, and against a
-// library without their entry points.
+// library without their entry points. The owners' own rules (freed once,
+// the calls of an empty owner) are in MailAccountsTest and ExclusionZoneTest.
 
 #include <cstdint>
 #include <cstring>
@@ -30,26 +31,25 @@ TEST_F(SiblingWrappersTest, MailAccountsRoundTrip) {
     Install().Write("Q9P3Accounts.ini",
                     "[Account1]\nProfile=alice@example.org\nClient=Desk Mail\nProtected=1\n\n"
                     "[Account2]\nProfile=bob@example.net\nClient=Terminal Mailer\nProtected=0\n");
-    void* accounts = g_Siblings.P3Create();
-    ASSERT_NE(accounts, nullptr);
-    EXPECT_EQ(g_Siblings.P3Load(accounts), 1);
-    ASSERT_EQ(g_Siblings.P3GetCount(accounts), 2);
-    EXPECT_EQ(g_Siblings.P3GetProfileName(accounts, 0), "alice@example.org");
-    EXPECT_EQ(g_Siblings.P3GetMUAName(accounts, 1), "Terminal Mailer");
-    EXPECT_EQ(g_Siblings.P3GetProtected(accounts, 0), 1);
-    EXPECT_EQ(g_Siblings.P3GetProtected(accounts, 1), 0);
-    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 0, 0), 1);
-    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 1, 1), 1);
-    EXPECT_EQ(g_Siblings.P3SetProtected2(accounts, 5, 1), 0);
-    EXPECT_EQ(g_Siblings.P3GetProfileName(accounts, 5), "");
-    EXPECT_EQ(g_Siblings.P3Save(accounts, 0), 1);
-    g_Siblings.P3Free(accounts);
-
-    void* reread = g_Siblings.P3Create();
-    ASSERT_EQ(g_Siblings.P3Load(reread), 1);
-    EXPECT_EQ(g_Siblings.P3GetProtected(reread, 0), 0);
-    EXPECT_EQ(g_Siblings.P3GetProtected(reread, 1), 1);
-    g_Siblings.P3Free(reread);
+    {
+        MailAccounts accounts = g_Siblings.CreateMailAccounts();
+        ASSERT_FALSE(accounts.IsEmpty());
+        EXPECT_EQ(accounts.Read(), 1);
+        ASSERT_EQ(accounts.Count(), 2);
+        EXPECT_EQ(accounts.ProfileName(0), "alice@example.org");
+        EXPECT_EQ(accounts.ClientName(1), "Terminal Mailer");
+        EXPECT_EQ(accounts.IsProtected(0), 1);
+        EXPECT_EQ(accounts.IsProtected(1), 0);
+        EXPECT_EQ(accounts.SetProtected(0, 0), 1);
+        EXPECT_EQ(accounts.SetProtected(1, 1), 1);
+        EXPECT_EQ(accounts.SetProtected(5, 1), 0);
+        EXPECT_EQ(accounts.ProfileName(5), "");
+        EXPECT_EQ(accounts.Save(0), 1);
+    }
+    MailAccounts reread = g_Siblings.CreateMailAccounts();
+    ASSERT_EQ(reread.Read(), 1);
+    EXPECT_EQ(reread.IsProtected(0), 0);
+    EXPECT_EQ(reread.IsProtected(1), 1);
 }
 
 TEST_F(SiblingWrappersTest, MessengersAsInstalled) {
@@ -84,15 +84,15 @@ TEST_F(SiblingWrappersTest, SpamFilterRulesThroughTheManager) {
 
 TEST_F(SiblingWrappersTest, ZoneRecordRoundTrip) {
     AddSibling("OrvDMZ");
-    void* zone = g_Siblings.DMZCreate();
-    ASSERT_NE(zone, nullptr);
+    ExclusionZone zone = g_Siblings.CreateExclusionZone();
+    ASSERT_FALSE(zone.IsEmpty());
     const std::vector<uint8_t> record = ZoneRecord("/home/user/private", 0x102);
-    EXPECT_EQ(g_Siblings.DMZAdd(zone, kOwner, kOwner, ZoneBuffer(record).data()), 1);
+    EXPECT_EQ(zone.Add(kOwner, kOwner, ZoneBuffer(record).data()), 1);
 
-    const int32_t size = g_Siblings.DMZEnum(zone, kOwner, kOwner, nullptr, 0);
+    const int32_t size = zone.Enumerate(kOwner, kOwner, nullptr, 0);
     ASSERT_EQ(size, static_cast<int32_t>(record.size() + 4));
     std::vector<uint8_t> read(static_cast<size_t>(size), 0xEE);
-    EXPECT_EQ(g_Siblings.DMZEnum(zone, kOwner, kOwner, read.data(), size), size);
+    EXPECT_EQ(zone.Enumerate(kOwner, kOwner, read.data(), size), size);
     EXPECT_EQ(WordAt(read, 0), record.size());
     EXPECT_EQ(WordAt(read, 4), 1u);
     EXPECT_EQ(WordAt(read, 8), 0x102u);
@@ -100,24 +100,15 @@ TEST_F(SiblingWrappersTest, ZoneRecordRoundTrip) {
     EXPECT_STREQ(reinterpret_cast<const char*>(read.data() + 536), "/home/user/private");
     EXPECT_EQ(WordAt(read, record.size()), 0u);
 
-    EXPECT_EQ(g_Siblings.DMZDelete(zone, kOwner, kOwner), 1);
-    EXPECT_EQ(g_Siblings.DMZEnum(zone, kOwner, kOwner, nullptr, 0), 0);
-    g_Siblings.DMZDestroy(zone);
+    EXPECT_EQ(zone.Delete(kOwner, kOwner), 1);
+    EXPECT_EQ(zone.Enumerate(kOwner, kOwner, nullptr, 0), 0);
+    zone = ExclusionZone();
     EXPECT_NE(Install().Read("OrvDMZ.zone").find("OrvDMZ Zone 1"), std::string::npos);
 }
 
 TEST_F(SiblingWrappersTest, MissingLibrariesAnswerZeroNullOrEmpty) {
     Install().Write("Q9IMcfg.ini", "[Installed]\n0=1\n");
-    EXPECT_EQ(g_Siblings.P3Create(), nullptr);
-    int dummy = 0;
-    g_Siblings.P3Free(&dummy);
-    EXPECT_EQ(g_Siblings.P3Load(&dummy), 0);
-    EXPECT_EQ(g_Siblings.P3Save(&dummy, 0), 0);
-    EXPECT_EQ(g_Siblings.P3GetCount(&dummy), 0);
-    EXPECT_EQ(g_Siblings.P3GetProfileName(&dummy, 0), "");
-    EXPECT_EQ(g_Siblings.P3GetProtected(&dummy, 0), 0);
-    EXPECT_EQ(g_Siblings.P3SetProtected2(&dummy, 0, 1), 0);
-    EXPECT_EQ(g_Siblings.P3GetMUAName(&dummy, 0), "");
+    EXPECT_TRUE(g_Siblings.CreateMailAccounts().IsEmpty());
     EXPECT_EQ(g_Siblings.GetIMInstall(0), 0);
     EXPECT_EQ(g_Siblings.MsgFltInitManager(), 0);
     EXPECT_EQ(g_Siblings.MsgFltReleaseManager(), 0);
@@ -126,30 +117,16 @@ TEST_F(SiblingWrappersTest, MissingLibrariesAnswerZeroNullOrEmpty) {
     EXPECT_EQ(g_Siblings.MsgFltReloadManager(), 0);
     EXPECT_EQ(g_Siblings.MsgFltWriteRules(), 0);
     EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
-    EXPECT_EQ(g_Siblings.DMZCreate(), nullptr);
-    EXPECT_EQ(g_Siblings.DMZAdd(&dummy, kOwner, kOwner, &dummy), 0);
-    EXPECT_EQ(g_Siblings.DMZEnum(&dummy, kOwner, kOwner, nullptr, 0), 0);
-    EXPECT_EQ(g_Siblings.DMZDelete(&dummy, kOwner, kOwner), 0);
-    g_Siblings.DMZDestroy(&dummy);
-    EXPECT_EQ(dummy, 0);
+    EXPECT_TRUE(g_Siblings.CreateExclusionZone().IsEmpty());
 }
 
 TEST_F(SiblingWrappersTest, LibrariesWithoutEntryPointsAnswerZeroNullOrEmpty) {
     for (const char* name : {"Q9P3ATHL", "Q9IMcfg", "Q9MsgFlt", "OrvDMZ"}) AddProbeAs(name);
-    int dummy = 0;
-    EXPECT_EQ(g_Siblings.P3Create(), nullptr);
-    g_Siblings.P3Free(&dummy);
-    EXPECT_EQ(g_Siblings.P3Load(&dummy), 0);
-    EXPECT_EQ(g_Siblings.P3GetCount(&dummy), 0);
-    EXPECT_EQ(g_Siblings.P3GetProfileName(&dummy, 0), "");
-    EXPECT_EQ(g_Siblings.P3GetMUAName(&dummy, 0), "");
+    EXPECT_TRUE(g_Siblings.CreateMailAccounts().IsEmpty());
     EXPECT_EQ(g_Siblings.GetIMInstall(0), 0);
     EXPECT_EQ(g_Siblings.MsgFltInitManager(), 0);
     EXPECT_EQ(g_Siblings.MsgFltGetRuleCount(), 0);
-    EXPECT_EQ(g_Siblings.DMZCreate(), nullptr);
-    EXPECT_EQ(g_Siblings.DMZEnum(&dummy, kOwner, kOwner, nullptr, 0), 0);
-    g_Siblings.DMZDestroy(&dummy);
-    EXPECT_EQ(dummy, 0);
+    EXPECT_TRUE(g_Siblings.CreateExclusionZone().IsEmpty());
 }
 
 TEST_F(SiblingWrappersTest, RuleEditorResultIsPassedOn) {
