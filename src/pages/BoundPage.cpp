@@ -43,6 +43,8 @@ void CBoundPage::OnSave() {
 }
 
 int32_t CBoundPage::Validate() {
+    // A covered page shows nothing to correct, and saves nothing.
+    if (m_covered != 0) return 0;
     if (m_bind.Validate(this) != 0) return 1;
     return ValidateMore();
 }

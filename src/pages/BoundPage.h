@@ -5,7 +5,7 @@
 //   Load and Default show values through one routine, from the store or
 //   from the factory defaults; Load clears m_modified, Default sets it;
 //   Save writes the bound values bit by bit (never on a covered page);
-//   Validate runs the bound range and length checks;
+//   Validate runs the bound range and length checks (a covered page passes);
 //   a user's change to a bound control sets m_modified, and m_needApply
 //   on a page that applies, and re-runs the enable rules.
 // Hooks take what is not a store value: registrations, lists, dialogs.

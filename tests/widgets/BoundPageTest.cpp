@@ -209,6 +209,15 @@ TEST_F(BoundPageTest, ACoveredPageSavesNothing) {
     EXPECT_EQ(page->Validate(), 0);
 }
 
+TEST_F(BoundPageTest, ACoveredPagePassesValidationWhateverItsFieldsHold) {
+    SetWord(kOptions, kBoxBit);
+    auto page = Make();
+    page->sizeField->setText("0");
+    page->CoverWithNotice("Not available");
+    EXPECT_EQ(page->Validate(), 0);
+    EXPECT_TRUE(m_messages.messages.empty());
+}
+
 TEST_F(BoundPageTest, OnlyAUsersActionMarksThePageModified) {
     SetWord(kOptions, kBoxBit);
     auto page = Make();
