@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string>
 
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 #include "platform/SharedWord.h"
 #include "session/DiagLog.h"
 

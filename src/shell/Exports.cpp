@@ -2,9 +2,12 @@
 // No exception crosses this border: a failure inside becomes the result the
 // caller would get for a request that could not be carried out.
 #include <cerrno>
+#include <cstdint>
 #include <exception>
+#include <limits>
 
 #include "Q9CfgE.h"
+#include "beacon/WindowBeacon.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
 #include "portblock/RuleFile.h"
@@ -52,12 +55,24 @@ bool PassesPrivilegeGate(uint32_t flags) {
     return false;
 }
 
+// The open prompt's word is its window beacon's token. A prompt whose beacon
+// could not listen gave its native window id instead: no beacon answers
+// that, and nothing is raised.
+void BringPromptForward(uint64_t openPrompt) {
+    if (openPrompt <= std::numeric_limits<uint32_t>::max()) {
+        BringWindowForward(static_cast<uint32_t>(openPrompt));
+    }
+}
+
 // Asks for the product password, unless the caller skips it. A prompt open
-// already, in this or another process, is not asked again: the answer is
-// then false.
+// already, in this or another process, is not asked again: it is brought to
+// the front, and the answer is false.
 bool PassesAuthentication(uint64_t parent, uint32_t flags) {
     if (flags & (DMF_NoAuthenticate | DMF_Silent)) return true;
-    if (Q9CfgE_GetAuthenticateDlg(0) != 0) return false;  // a prompt is open already
+    if (const uint64_t openPrompt = Q9CfgE_GetAuthenticateDlg(0)) {
+        BringPromptForward(openPrompt);
+        return false;
+    }
     const std::string caption = LoadString(strings::kApplicationName);
     return Q9CfgE_AuthenticateEx(parent, 0, caption.c_str()) != 0;
 }

@@ -18,7 +18,7 @@
 #include "CallerInstallation.h"
 #include "DialogDriver.h"
 #include "Q9CfgE.h"
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 #include "platform/SharedWord.h"
 #include "q9cfgul.h"
 #include "support/HelperWindow.h"
@@ -250,21 +250,25 @@ TEST_F(DoModalTest, ARefusedPasswordAnswersTwoWithoutBringingAnOpenWindowForward
 }
 
 // A password prompt open in another process of the installation is not
-// opened a second time: the call answers 2 without a prompt of its own and
-// leaves the other prompt open.
-TEST_F(DoModalTest, APasswordPromptOpenInAnotherProcessAnswersTwoWithoutAPromptOfItsOwn) {
+// opened a second time: each call brings that prompt to the front and
+// answers 2 without a prompt of its own, leaving the other prompt open.
+TEST_F(DoModalTest, APasswordPromptOpenInAnotherProcessIsBroughtForwardAndAnswersTwo) {
     Install({"Q9SSCtrl"});
     SetPassword("right");
     const std::string stop = caller->install.PathOf("stop");
+    const std::string events = caller->install.PathOf("prompt-events");
     ChildProcess other(Q9_HELPER_DIR "/q9_store_helper",
-                       {"prompt", caller->install.Directory(), stop});
-    ASSERT_TRUE(WaitFor([] { return Q9CfgE_GetAuthenticateDlg(0) != 0; }));
+                       {"prompt", caller->install.Directory(), stop, events});
+    ASSERT_TRUE(WaitFor([&] { return caller->install.Read("prompt-events") == "shown\n"; }));
     const uint64_t otherPrompt = Q9CfgE_GetAuthenticateDlg(0);
+    ASSERT_NE(otherPrompt, 0u);
     int prompts = 0;
     PromptAnswerer cancel(nullptr, [&prompts] { ++prompts; });
     BoxAnswerer boxes;
     EXPECT_EQ(doModal(0, DMF_ModeDialog, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(caller->install.Read("prompt-events"), "shown\nraised\n");
     EXPECT_EQ(doModal(0, DMF_ModeSinglePage, nullptr, nullptr, nullptr), 2);
+    EXPECT_EQ(caller->install.Read("prompt-events"), "shown\nraised\nraised\n");
     EXPECT_EQ(prompts, 0);
     EXPECT_TRUE(boxes.boxes.empty());
     EXPECT_FALSE(other.HasExited());

@@ -21,9 +21,11 @@
 //       Exit 0 when edit mode was entered without waiting and the commit
 //       succeeded.
 //
-//   q9_store_helper prompt <dir> <stop file>
+//   q9_store_helper prompt <dir> <stop file> [<events file>]
 //       Runs a widget application and asks for the password; the prompt is
 //       cancelled once the stop file exists. Exit 0 when the answer was 0.
+//       With an events file, appends "shown" once the prompt is on screen
+//       and "raised" each time it is raised after that.
 //
 //   q9_store_helper prompt-bare <dir>
 //       Asks for the password without an application of its own (the store
@@ -32,6 +34,8 @@
 #include <sys/stat.h>
 
 #include <QApplication>
+#include <QDialog>
+#include <QEvent>
 #include <QTimer>
 #include <QWidget>
 #include <chrono>
@@ -40,6 +44,7 @@
 #include <fstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include "Q9CfgE.h"
 #include "unit/siblings/Q9CfgE/Generations.h"
@@ -112,8 +117,33 @@ int EditHold(const std::string& ready, const std::string& release, char** word) 
     return entered == 1 && committed == 1 ? 0 : 1;
 }
 
-int Prompt(int argc, char** argv, const std::string& stop) {
+// Writes what happens to the prompt dialog to a file, a line each.
+class PromptEvents : public QObject {
+public:
+    explicit PromptEvents(std::string path) : m_path(std::move(path)) {}
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (!qobject_cast<QDialog*>(watched)) return false;
+        if (event->type() == QEvent::Show) Append("shown");
+        if (event->type() == QEvent::ZOrderChange && m_shown) Append("raised");
+        return false;
+    }
+
+private:
+    void Append(const char* line) {
+        m_shown = true;
+        std::ofstream(m_path, std::ios::app) << line << '\n';
+    }
+
+    std::string m_path;
+    bool m_shown = false;
+};
+
+int Prompt(int argc, char** argv, const std::string& stop, const char* eventsFile) {
     QApplication application(argc, argv);
+    PromptEvents events(eventsFile ? eventsFile : "");
+    if (eventsFile) application.installEventFilter(&events);
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [&stop] {
         if (!Exists(stop)) return;
@@ -135,7 +165,9 @@ int main(int argc, char** argv) {
     if (mode == "flush-loop" && argc == 3) return FlushLoop();
     if (mode == "read-loop" && argc == 5) return ReadLoop(Number(argv[3]), argv[4]);
     if (mode == "edit-hold" && argc == 8) return EditHold(argv[3], argv[4], argv + 5);
-    if (mode == "prompt" && argc == 4) return Prompt(argc, argv, argv[3]);
+    if (mode == "prompt" && (argc == 4 || argc == 5)) {
+        return Prompt(argc, argv, argv[3], argc == 5 ? argv[4] : nullptr);
+    }
     if (mode == "prompt-bare" && argc == 3) return BarePrompt();
     return Fail("unknown mode or wrong arguments: " + mode);
 }

@@ -21,7 +21,7 @@
 #include <fstream>
 #include <string>
 
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 
 namespace {
 

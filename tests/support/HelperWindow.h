@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 #include "support/ChildProcess.h"
 
 class HelperWindow {

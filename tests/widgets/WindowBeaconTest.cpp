@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -17,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 #include "support/ChildProcess.h"
 #include "support/HelperWindow.h"
 #include "support/ProblemCapture.h"
@@ -180,6 +181,28 @@ TEST(WindowBeacon, NewBeaconReplacesAStaleSocketOfItsToken) {
     WindowBeacon beacon(&window);
     ASSERT_EQ(beacon.Token(), token);
     EXPECT_TRUE(BringWindowForward(token));
+}
+
+// Each shared library that links the beacon counts its serials alone; a
+// beacon of another library of this process, listening on the token this
+// one would take, keeps it.
+TEST(WindowBeacon, ALiveSocketOfItsTokenIsLeftToItsListener) {
+    QWidget window;
+    uint32_t token = 0;
+    {
+        WindowBeacon beacon(&window);
+        token = beacon.Token();
+    }
+    QLocalServer otherLibrary;
+    ASSERT_TRUE(otherLibrary.listen(WindowBeacon::SocketPath(token)));
+
+    WindowBeacon beacon(&window);
+    EXPECT_NE(beacon.Token(), 0u);
+    EXPECT_NE(beacon.Token(), token);
+    QLocalSocket caller;
+    caller.connectToServer(WindowBeacon::SocketPath(token));
+    EXPECT_TRUE(caller.waitForConnected(10000));
+    EXPECT_TRUE(otherLibrary.waitForNewConnection(10000));
 }
 
 TEST(WindowBeacon, OnlyTheUserCanConnect) {

@@ -105,8 +105,10 @@ Q9CFGE_API int32_t Q9CfgE_FlushEx(uint32_t section, uint32_t commit);
 /* Bumps the change mark that services watch. */
 Q9CFGE_API int32_t Q9CfgE_SetModified(void);
 
-/* Native window id of a password prompt open in any process of the
- * installation, or 0. */
+/* The window of a password prompt open in any process of the installation,
+ * or 0: the token of the prompt's window beacon, which brings the prompt to
+ * the front when asked (BringWindowForward), or, when the beacon could not
+ * listen, the prompt's native window id. */
 Q9CFGE_API uint64_t Q9CfgE_GetAuthenticateDlg(uint32_t reserved);
 /* Asks for the product's password when one is set; non-zero when the user
  * is authenticated (at once when no password is set). */

@@ -12,6 +12,7 @@
 #include "ConfigStore.h"
 #include "PasswordPrompt.h"
 #include "PromptMarker.h"
+#include "beacon/WindowBeacon.h"
 #include "common/InstallDirectory.h"
 #include "platform/Display.h"
 #include "platform/ProblemReport.h"
@@ -57,14 +58,23 @@ QApplication* WidgetApplication(std::unique_ptr<QApplication>* own) {
     return application;
 }
 
+// What marks the open prompt for other processes: its beacon's token, which
+// brings it to the front. A beacon that cannot listen (reported) leaves the
+// native window id, so the prompt still counts as open.
+uint64_t PromptWindow(const WindowBeacon& beacon, QWidget& prompt) {
+    if (beacon.Token() != 0) return beacon.Token();
+    return static_cast<uint64_t>(prompt.winId());
+}
+
 int32_t Prompt(uint64_t ownerWindow, const char* caption, const std::string& password) {
     std::unique_ptr<QApplication> ownApplication;
     if (!WidgetApplication(&ownApplication)) return 0;
     PasswordPrompt prompt(OwnerWindow(ownerWindow),
                           QString::fromUtf8(caption && *caption ? caption : "Password"),
                           [&password](const QString& typed) { return SamePassword(typed, password); });
+    const WindowBeacon beacon(&prompt);
     const PromptMarker marker(sibling::InstallFile(PromptMarker::kFileName),
-                              static_cast<uint64_t>(prompt.winId()));
+                              PromptWindow(beacon, prompt));
     return prompt.exec() == QDialog::Accepted ? 1 : 0;
 }
 

@@ -27,11 +27,11 @@ struct Layer {
 
 // From the bottom. Folders of one rank may not include each other.
 const std::map<std::string, Layer> kLayers = {
-    {"platform", {0, QtUse::kNone}},    {"text", {1, QtUse::kCore}},
-    {"options", {2, QtUse::kCore}},     {"portblock", {2, QtUse::kCore}},
-    {"session", {3, QtUse::kCore}},     {"framework", {4, QtUse::kWidgets}},
-    {"controls", {5, QtUse::kWidgets}}, {"pages", {6, QtUse::kWidgets}},
-    {"shell", {7, QtUse::kWidgets}},
+    {"platform", {0, QtUse::kNone}},     {"beacon", {1, QtUse::kWidgets}},
+    {"text", {1, QtUse::kCore}},         {"options", {2, QtUse::kCore}},
+    {"portblock", {2, QtUse::kCore}},    {"session", {3, QtUse::kCore}},
+    {"framework", {4, QtUse::kWidgets}}, {"controls", {5, QtUse::kWidgets}},
+    {"pages", {6, QtUse::kWidgets}},     {"shell", {7, QtUse::kWidgets}},
 };
 
 // Data only: forms, pictures, translations.

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,10 +10,30 @@
 #include <functional>
 
 #include "StoreHelper.h"
+#include "beacon/WindowBeacon.h"
 #include "StoreTest.h"
 
 namespace store_test {
 namespace {
+
+// Counts the events of one type that reach an object.
+class PromptEventCounter : public QObject {
+public:
+    PromptEventCounter(QObject* watched, QEvent::Type type) : m_type(type) {
+        watched->installEventFilter(this);
+    }
+    int Count() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == m_type) ++m_count;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    int m_count = 0;
+};
 
 class AuthenticationTest : public StoreTest {
 protected:
@@ -146,15 +167,32 @@ TEST_F(AuthenticationTest, OpenPromptIsAnsweredWhileItIsOpenAndNotAfter) {
     SetPassword("s3cret");
     EXPECT_EQ(Q9CfgE_GetAuthenticateDlg(0), 0u);
     uint64_t whileOpen = 0;
-    uint64_t window = 0;
     Authenticate([&](QDialog* prompt) {
         whileOpen = Q9CfgE_GetAuthenticateDlg(0);
-        window = static_cast<uint64_t>(prompt->winId());
         Type(prompt, "s3cret");
     });
-    EXPECT_NE(window, 0u);
-    EXPECT_EQ(whileOpen, window);
+    EXPECT_NE(whileOpen, 0u);
     EXPECT_EQ(Q9CfgE_GetAuthenticateDlg(0), 0u);
+}
+
+// The answer is the prompt's window beacon: asking it brings the prompt to
+// the front, although this program links a beacon of its own as well.
+TEST_F(AuthenticationTest, OpenPromptAnswerBringsThePromptForward) {
+    SetPassword("s3cret");
+    QWidget ownWindow;
+    const WindowBeacon ownBeacon(&ownWindow);
+    bool answered = false;
+    int raised = 0;
+    Authenticate([&](QDialog* prompt) {
+        const uint64_t open = Q9CfgE_GetAuthenticateDlg(0);
+        EXPECT_NE(open, ownBeacon.Token());
+        PromptEventCounter raises(prompt, QEvent::ZOrderChange);
+        answered = BringWindowForward(static_cast<uint32_t>(open));
+        raised = raises.Count();
+        Type(prompt, "s3cret");
+    });
+    EXPECT_TRUE(answered);
+    EXPECT_EQ(raised, 1);
 }
 
 TEST_F(AuthenticationTest, PromptOfAnotherProcessIsSeenWhileItIsOpen) {

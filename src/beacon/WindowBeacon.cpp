@@ -1,6 +1,8 @@
-#include "framework/WindowBeacon.h"
+#include "beacon/WindowBeacon.h"
 
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -14,6 +16,7 @@
 #include <QWidget>
 #include <bitset>
 #include <cerrno>
+#include <cstring>
 #include <mutex>
 #include <optional>
 
@@ -34,14 +37,36 @@ constexpr uint32_t kSerialCount = 1u << (32 - kProcessIdBits);
 std::mutex g_serialMutex;
 std::bitset<kSerialCount> g_serialsInUse;
 
-// The lowest serial no live beacon of this process has.
+uint32_t TokenOf(uint32_t serial) {
+    return (serial << kProcessIdBits) | static_cast<uint32_t>(getpid());
+}
+
+// Whether a live beacon listens on path. Each shared library that links this
+// code has serials of its own, so a beacon of another library of this process
+// may hold a token this copy thinks free; a socket left by an ended process
+// that had this process's id is a file too, but nobody answers it.
+bool SomebodyListensOn(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    sockaddr_un address{};
+    if (static_cast<size_t>(name.size()) >= sizeof(address.sun_path)) return false;
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, name.constData(), static_cast<size_t>(name.size()));
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0) return false;
+    const bool listening =
+        ::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+    ::close(fd);
+    return listening;
+}
+
+// The lowest serial that no live beacon of this process has.
 std::optional<uint32_t> TakeSerial() {
     std::lock_guard<std::mutex> lock(g_serialMutex);
     for (uint32_t serial = 0; serial < kSerialCount; ++serial) {
-        if (!g_serialsInUse[serial]) {
-            g_serialsInUse[serial] = true;
-            return serial;
-        }
+        if (g_serialsInUse[serial]) continue;
+        if (SomebodyListensOn(WindowBeacon::SocketPath(TokenOf(serial)))) continue;
+        g_serialsInUse[serial] = true;
+        return serial;
     }
     return std::nullopt;
 }
@@ -49,10 +74,6 @@ std::optional<uint32_t> TakeSerial() {
 void ReleaseSerial(uint32_t serial) {
     std::lock_guard<std::mutex> lock(g_serialMutex);
     g_serialsInUse[serial] = false;
-}
-
-uint32_t TokenOf(uint32_t serial) {
-    return (serial << kProcessIdBits) | static_cast<uint32_t>(getpid());
 }
 
 bool IsAcknowledgement(const QByteArray& answer) { return answer == kAcknowledgement; }

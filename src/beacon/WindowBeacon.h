@@ -11,7 +11,9 @@
 // word holds.
 //
 // The token is the process id with a serial of the beacons alive in this
-// process above it: never 0, and unique among the live processes of the user.
+// process above it: never 0, and unique among the live beacons of the user,
+// also when several libraries of one process link the beacon (a serial whose
+// socket a live beacon answers is skipped).
 // The socket lies in a folder of the user's own in the temporary directory
 // (TMPDIR, else /tmp), which only the user may enter, and is named after the
 // token.
