@@ -1,6 +1,7 @@
 #include "platform/MountTable.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <span>
@@ -146,7 +147,11 @@ MountTable MountTable::FromFile(const std::string& path, const std::string& sysf
     return FromText(text.str(), sysfsRoot);
 }
 
-MountTable MountTable::FromSystem() { return FromFile("/proc/self/mounts", "/sys"); }
+MountTable MountTable::FromSystem() {
+    const char* table = std::getenv(kMountTableVariable);
+    if (table && *table) return FromFile(table, "/sys");
+    return FromFile("/proc/self/mounts", "/sys");
+}
 
 void MountTable::Add(MountEntry entry, const std::string& sysfsRoot) {
     m_kinds.push_back(Classify(entry, sysfsRoot));

@@ -45,6 +45,8 @@ bool MountPointHolds(const std::string& mountPoint, const std::string& path);
 std::string NetworkPathBelow(const std::string& source, const std::string& mountPoint,
                              const std::string& path);
 
+constexpr char kMountTableVariable[] = "Q9_MOUNT_TABLE";
+
 class MountTable {
 public:
     MountTable() = default;
@@ -64,7 +66,9 @@ public:
     // The same from a file; an unreadable file gives an empty table.
     static MountTable FromFile(const std::string& path, const std::string& sysfsRoot = {});
 
-    // The mounts of this process, from /proc/self/mounts and /sys.
+    // The mounts of this process, from /proc/self/mounts and /sys; or, when
+    // the environment variable Q9_MOUNT_TABLE names a file, from that file
+    // (tests and demonstrations show network drives without mounting any).
     static MountTable FromSystem();
 
     const std::vector<MountEntry>& entries() const;
