@@ -52,6 +52,18 @@ bool Better(const ExclusionMatch& match, const std::optional<ExclusionMatch>& be
 
 }  // namespace
 
+std::string OwnerOf(const ExclusionMatch& match) {
+    return match.row.owner.empty() ? kZoneOwnerTag : match.row.owner;
+}
+
+std::string DescribeExclusion(const ExclusionMatch& match) {
+    static constexpr const char* kKindNames[] = {"file", "folder", "extension"};
+    std::string line = std::string("excluded by the ") + kKindNames[static_cast<int>(match.kind)] +
+                       " \"" + match.row.text + "\" (owner " + OwnerOf(match) + ")";
+    if (!match.matchedPath.empty()) line += " through the network path " + match.matchedPath;
+    return line;
+}
+
 std::optional<ExclusionKind> KindOfRow(const ExclusionRow& row) {
     if (row.flags & kZoneExtension) return ExclusionKind::kExtension;
     if (row.flags & kZoneFile) return ExclusionKind::kFile;
@@ -70,7 +82,7 @@ std::optional<ExclusionMatch> FindExclusion(const std::vector<ExclusionRow>& row
         if (!row.use || !kind) continue;
         for (const std::string& name : names) {
             if (!Covers(row, *kind, name)) continue;
-            ExclusionMatch match{row, *kind, name};
+            ExclusionMatch match{row, *kind, name == path ? std::string() : name};
             if (Better(match, best)) best = std::move(match);
             break;
         }

@@ -24,12 +24,21 @@ enum class ExclusionKind { kFile, kFolder, kExtension };
 struct ExclusionMatch {
     ExclusionRow row;
     ExclusionKind kind;
-    std::string matchedPath;  // path, or its network path when that matched
+    std::string matchedPath;  // the network path when that matched; else empty
 };
 
 // The row that excludes path; nullopt when none does.
 std::optional<ExclusionMatch> FindExclusion(const std::vector<ExclusionRow>& rows,
                                             const std::string& path);
+
+// The owner of a matched row: its zone owner tag, or this product's for the
+// user's rows.
+std::string OwnerOf(const ExclusionMatch& match);
+
+// One line for people: which row, its kind and owner, and the network path
+// when that is what matched, e.g.
+//   excluded by the folder "/data/tmp" (owner Q9Pro2004)
+std::string DescribeExclusion(const ExclusionMatch& match);
 
 // The kind of a row; nullopt for a row that is neither path nor extension.
 std::optional<ExclusionKind> KindOfRow(const ExclusionRow& row);

@@ -106,6 +106,15 @@ ExclusionRecords ReadExclusionRecords(bool storeIsSource) {
     return records;
 }
 
+ExclusionList LoadExclusionList(bool storeIsSource) {
+    const bool enabled = Q9CfgE_GetDWEx(CES_Exclude, CEK_ExcludeEnable) != 0;
+    ExclusionList list;
+    list.Fill(ReadExclusionRecords(storeIsSource).shown,
+              ReadStoreText(CES_Exclude, CEK_ExcludeText), enabled);
+    list.SetUse(enabled);
+    return list;
+}
+
 void SaveExclusions(const ExclusionList& list, const ExclusionChoices& choices) {
     std::vector<ObjectRecord> storeRecords;
     for (const ZoneRecord& record : list.Records()) {

@@ -29,6 +29,11 @@ struct ExclusionRecords {
 // everything comes from the zone.
 ExclusionRecords ReadExclusionRecords(bool storeIsSource);
 
+// The list as the exclusions page starts with it: the records of
+// ReadExclusionRecords, then the store's extensions; the user's rows are in
+// use while the list is in force.
+ExclusionList LoadExclusionList(bool storeIsSource);
+
 // This product's records in the zone as it is, or nullopt without the zone
 // library. A malformed answer of the library is reported, and the records
 // before the fault are kept.

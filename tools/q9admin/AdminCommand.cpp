@@ -5,6 +5,7 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <vector>
 
@@ -12,7 +13,10 @@
 #include "Q9CfgE.h"
 #include "common/InstallDirectory.h"
 #include "platform/Registry.h"
+#include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
+#include "targets/ExclusionMatch.h"
+#include "targets/ExclusionStore.h"
 
 namespace {
 
@@ -287,6 +291,22 @@ int Zone(Context& context) {
     return PrintFile(context, sibling::InstallFile("OrvDMZ.zone"), "exclusion zone yet");
 }
 
+// Which row of the exclusion list, as the exclusions page would show it,
+// leaves the path out of scans: exit 0 and the row when one does, 1 when
+// none does.
+int ExclusionsTest(Context& context) {
+    InitProcessState();
+    const std::string& path = context.args[0];
+    const ExclusionList list = LoadExclusionList(false);
+    const std::optional<ExclusionMatch> match = FindExclusion(list.Rows(), path);
+    if (!match) {
+        context.out << path << ": not excluded\n";
+        return kAbsent;
+    }
+    context.out << path << ": " << DescribeExclusion(*match) << "\n";
+    return kDone;
+}
+
 int Journal(Context& context) {
     return PrintFile(context, sibling::InstallFile("Q9SSCtrl.journal"),
                      "registration journal yet");
@@ -311,6 +331,7 @@ const std::vector<Verb>& Verbs() {
         {"registry", "dump", "HKLM|HKCU", 1, 1, RegistryDump},
         {"journal", "", "", 0, 0, Journal},
         {"zone", "", "", 0, 0, Zone},
+        {"exclusions", "test", "PATH", 1, 1, ExclusionsTest},
     };
     return verbs;
 }

@@ -177,3 +177,14 @@ TEST_F(ExclusionStoreTest, WithoutTheZoneLibraryTheStoreAloneIsShownAndApplyDoes
     EXPECT_FALSE(ApplyExclusions());
     EXPECT_FALSE(ReadZone().has_value());
 }
+
+TEST_F(ExclusionStoreTest, TheLoadedListIsInUseWhileTheSwitchIsOn) {
+    SaveExclusions(ListOf({"/srv/a"}, "dmp"), {false, false});
+    PutInZone(kOtherOwner, {{1, kZoneFolder, "", "/opt/other"}});
+    const ExclusionList off = LoadExclusionList(true);
+    ASSERT_EQ(off.Rows().size(), 3u);
+    for (const ExclusionRow& row : off.Rows())
+        EXPECT_EQ(row.use, row.owner == kOtherOwner) << row.text;
+    SaveExclusions(ListOf({"/srv/a"}, "dmp"), {true, false});
+    for (const ExclusionRow& row : LoadExclusionList(true).Rows()) EXPECT_TRUE(row.use) << row.text;
+}

@@ -124,3 +124,53 @@ TEST_F(AdminToolTest, JournalAndZoneFilesArePrinted) {
     install.Write("OrvDMZ.zone", "OrvDMZ Zone 1\n[Q9Pro2004]\nrecord=1,0x00000102,\"/x\"\n");
     EXPECT_NE(Run({"zone"}).out.find("[Q9Pro2004]"), std::string::npos);
 }
+
+// Which row excludes a path, through the command line: this product's and
+// another product's zone records, the store's extensions, and a network
+// drive's path met by its network path.
+TEST_F(AdminToolTest, ExclusionsTestNamesTheRowItsKindAndItsOwner) {
+    install.Write("Q9Cfg.dat",
+                  "Q9 Configuration Store 1\n[CES_Exclude]\nCEK_ExcludeEnable=dword:00000001\n"
+                  "CEK_ExcludeText=\"dmp/tmp\"\n");
+    install.Write("OrvDMZ.zone",
+                  "OrvDMZ Zone 1\n[Q9Pro2004]\nrecord=1,0x00000102,\"/data/cache\"\n"
+                  "record=1,0x00000101,\"/data/keep.bin\"\n"
+                  "record=1,0x00000122,\"//server/share/docs\"\n"
+                  "[OtherProduct]\nrecord=1,0x00000002,\"/opt/other\"\n"
+                  "record=1,0x00000002,\"//server/share/public\"\n");
+    install.Write("mounts", "/dev/sda1 / ext4 rw 0 0\n//server/share /mnt/share cifs rw 0 0\n");
+    qputenv("Q9_MOUNT_TABLE", QByteArray::fromStdString(install.PathOf("mounts")));
+
+    const Outcome folder = Run({"exclusions", "test", "/data/cache/a/b.txt"});
+    EXPECT_EQ(folder.status, 0);
+    EXPECT_EQ(folder.out,
+              "/data/cache/a/b.txt: excluded by the folder \"/data/cache\" (owner Q9Pro2004)\n");
+    EXPECT_EQ(Run({"exclusions", "test", "/data/keep.bin"}).out,
+              "/data/keep.bin: excluded by the file \"/data/keep.bin\" (owner Q9Pro2004)\n");
+    EXPECT_EQ(Run({"exclusions", "test", "/home/u/core.DMP"}).out,
+              "/home/u/core.DMP: excluded by the extension \"*.dmp\" (owner Q9Pro2004)\n");
+    EXPECT_EQ(Run({"exclusions", "test", "/opt/other/x"}).out,
+              "/opt/other/x: excluded by the folder \"/opt/other\" (owner OtherProduct)\n");
+    EXPECT_EQ(Run({"exclusions", "test", "/mnt/share/public/a"}).out,
+              "/mnt/share/public/a: excluded by the folder \"//server/share/public\" (owner "
+              "OtherProduct) through the network path //server/share/public/a\n");
+    // The derived network form of the product's own folder is not a row.
+    EXPECT_EQ(Run({"exclusions", "test", "//server/share/docs/a"}).status, 1);
+    const Outcome none = Run({"exclusions", "test", "/data/cachefiles"});
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.out, "/data/cachefiles: not excluded\n");
+    qunsetenv("Q9_MOUNT_TABLE");
+}
+
+TEST_F(AdminToolTest, ExclusionsOutOfForceExcludeNothingOfTheProducts) {
+    install.Write("Q9Cfg.dat",
+                  "Q9 Configuration Store 1\n[CES_Exclude]\nCEK_ExcludeEnable=dword:00000000\n"
+                  "CEK_ExcludeText=\"dmp\"\n");
+    install.Write("OrvDMZ.zone",
+                  "OrvDMZ Zone 1\n[Q9Pro2004]\nrecord=0,0x00000102,\"/data/cache\"\n"
+                  "[OtherProduct]\nrecord=1,0x00000002,\"/opt/other\"\n");
+    EXPECT_EQ(Run({"exclusions", "test", "/data/cache/x"}).status, 1);
+    EXPECT_EQ(Run({"exclusions", "test", "/x/core.dmp"}).status, 1);
+    EXPECT_EQ(Run({"exclusions", "test", "/opt/other/x"}).status, 0);
+    EXPECT_EQ(Run({"exclusions", "test"}).status, 2);
+}
