@@ -336,6 +336,17 @@ constexpr StringEntry kStrings[] = {
                               "icon cannot be viewed.")},
     {57413, QT_TRANSLATE_NOOP("StringTable", "Ports List")},
     {57414, QT_TRANSLATE_NOOP("StringTable", "Please enter the value with more than 10 minutes.")},
+    {57430, QT_TRANSLATE_NOOP("StringTable", "Test a path")},
+    {57431, QT_TRANSLATE_NOOP("StringTable", "Which path should be tested?")},
+    {57432,
+     QT_TRANSLATE_NOOP("StringTable", "\"%s\" is excluded from scans by the folder \"%s\".")},
+    {57433, QT_TRANSLATE_NOOP("StringTable", "\"%s\" is excluded from scans by the file \"%s\".")},
+    {57434,
+     QT_TRANSLATE_NOOP("StringTable", "\"%s\" is excluded from scans by the extension \"%s\".")},
+    {57435, QT_TRANSLATE_NOOP("StringTable", "This row belongs to this product.")},
+    {57436, QT_TRANSLATE_NOOP("StringTable", "This row belongs to another product (%s).")},
+    {57437, QT_TRANSLATE_NOOP("StringTable", "It matched the network path \"%s\".")},
+    {57438, QT_TRANSLATE_NOOP("StringTable", "\"%s\" is not excluded from scans.")},
 };
 
 constexpr bool IdsAscendUnique() {

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "support/TemporaryInstallation.h"
+#include "support/TestPaths.h"
 
 class CallerInstallation {
 public:
@@ -42,7 +43,7 @@ public:
 private:
     void Copy(const std::string& name) {
         const std::string file = "lib" + name + ".so";
-        std::filesystem::copy_file(std::string(Q9_LIBRARY_DIR) + "/" + file, install.PathOf(file));
+        std::filesystem::copy_file(TestPath("library") + "/" + file, install.PathOf(file));
     }
 
     void* m_library = nullptr;

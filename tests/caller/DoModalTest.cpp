@@ -22,6 +22,7 @@
 #include "platform/SharedWord.h"
 #include "q9cfgul.h"
 #include "support/HelperWindow.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -199,7 +200,7 @@ TEST_F(DoModalTest, OpenConfigurationWindowElsewhereIsBroughtForwardAndAnswersTw
 TEST_F(DoModalTest, ADialogOpenInAnotherProcessIsBroughtForwardAfterAuthentication) {
     Install({"Q9SSCtrl"});
     SetPassword("right");
-    HelperWindow other(Q9_HELPER_DIR "/q9_window_helper");
+    HelperWindow other(TestPath("helpers") + "/q9_window_helper");
     const uint32_t token = other.WaitForToken();
     ASSERT_NE(token, 0u);
     platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
@@ -257,7 +258,7 @@ TEST_F(DoModalTest, APasswordPromptOpenInAnotherProcessIsBroughtForwardAndAnswer
     SetPassword("right");
     const std::string stop = caller->install.PathOf("stop");
     const std::string events = caller->install.PathOf("prompt-events");
-    ChildProcess other(Q9_HELPER_DIR "/q9_store_helper",
+    ChildProcess other(TestPath("helpers") + "/q9_store_helper",
                        {"prompt", caller->install.Directory(), stop, events});
     ASSERT_TRUE(WaitFor([&] { return caller->install.Read("prompt-events") == "shown\n"; }));
     const uint64_t otherPrompt = Q9CfgE_GetAuthenticateDlg(0);

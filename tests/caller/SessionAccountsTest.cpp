@@ -8,6 +8,7 @@
 
 #include "CallerInstallation.h"
 #include "q9cfgul.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ constexpr uint32_t kUnknownMode = 5;
 TEST(SessionAccounts, TheObjectIsFreedOnceWhenTheSessionEnds) {
     CallerInstallation caller({"Q9SSCtrl"});
     caller.install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
-    std::filesystem::copy_file(Q9_HANDLE_PROBE_LIBRARY, caller.install.PathOf("libQ9P3ATHL.so"));
+    std::filesystem::copy_file(TestPath("handle_probe"), caller.install.PathOf("libQ9P3ATHL.so"));
     ASSERT_NE(caller.Load(), nullptr) << dlerror();
     auto* doModal = caller.Entry<DoModalFn>("Q9CfgUL_DoModal");
     ASSERT_NE(doModal, nullptr);

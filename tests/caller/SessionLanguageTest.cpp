@@ -12,6 +12,7 @@
 #include "q9cfgul.h"
 #include "CallerInstallation.h"
 #include "support/LocaleEnvironment.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ using MsgBoxFn = int32_t(int32_t, uint32_t);
 // An installation with the language library and a German translation.
 void AddGermanTranslation(const TemporaryInstallation& install) {
     std::filesystem::create_directories(install.PathOf("Lang"));
-    std::filesystem::copy_file(Q9_TEST_TRANSLATION, install.PathOf("Lang/Q9CU_1031.qm"));
+    std::filesystem::copy_file(TestPath("translations") + "/Q9CU_1031.qm", install.PathOf("Lang/Q9CU_1031.qm"));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "platform/SharedLibrary.h"
 #include "session/ProcessState.h"
 #include "session/SiblingLibs.h"
+#include "support/TestPaths.h"
 
 namespace fs = std::filesystem;
 
@@ -35,7 +36,7 @@ void SiblingTest::ResetStore() {
 }
 
 void SiblingTest::AddSibling(const std::string& name) const {
-    const fs::path built = fs::path(Q9_LIBRARY_DIR) / platform::LibraryFileName(name);
+    const fs::path built = fs::path(TestPath("library")) / platform::LibraryFileName(name);
     ASSERT_TRUE(fs::exists(built)) << built;
     fs::create_symlink(built, m_install.PathOf(platform::LibraryFileName(name)));
 }

@@ -19,6 +19,7 @@
 #include "session/StoreCommit.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ std::vector<PageRow> BuiltRows() {
 std::set<int> FormTemplates() {
     const std::string prefix = "Dialog";
     std::set<int> ids;
-    const auto folder = std::filesystem::path(Q9_SOURCE_DIR) / "src/resources/forms";
+    const auto folder = std::filesystem::path(TestPath("source")) / "src/resources/forms";
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         const std::string stem = entry.path().stem();
         const std::string number = stem.substr(std::min(prefix.size(), stem.size()));

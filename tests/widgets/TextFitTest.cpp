@@ -20,6 +20,7 @@
 #include "pages/SettingsPage.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -162,7 +163,7 @@ TEST(TextFitLanguages, TheGermanTranslationIsAmongThem) {
     for (const UiLanguage& language : UiLanguages()) {
         if (language.name == kGermanTranslationName) german = true;
     }
-    EXPECT_TRUE(german) << Q9_TRANSLATION_DIR;
+    EXPECT_TRUE(german) << TestPath("translations");
 }
 
 }  // namespace

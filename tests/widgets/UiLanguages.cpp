@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "support/TestPaths.h"
+
 void PrintTo(const UiLanguage& language, std::ostream* out) { *out << language.name; }
 
 std::vector<UiLanguage> UiLanguages() {
     std::vector<UiLanguage> translations;
-    const std::filesystem::path folder(Q9_TRANSLATION_DIR);
+    const std::filesystem::path folder(TestPath("translations"));
     if (std::filesystem::is_directory(folder)) {
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
             if (entry.path().extension() != ".qm") continue;

@@ -22,10 +22,11 @@
 #include "support/ChildProcess.h"
 #include "support/HelperWindow.h"
 #include "support/ProblemCapture.h"
+#include "support/TestPaths.h"
 
 namespace {
 
-const std::string kHelper = Q9_HELPER_DIR "/q9_window_helper";
+const std::string kHelper = TestPath("helpers") + "/q9_window_helper";
 
 bool WaitWithEvents(const std::function<bool()>& condition) {
     return WaitFor([&condition] {

@@ -1043,5 +1043,41 @@ Möchten Sie die Explorer-Prüfung auswählen?</translation>
         <source>Please enter the value with more than 10 minutes.</source>
         <translation>Bitte geben Sie einen Wert von mindestens 10 Minuten ein.</translation>
     </message>
+    <message>
+        <source>Test a path</source>
+        <translation>Pfad prüfen</translation>
+    </message>
+    <message>
+        <source>Which path should be tested?</source>
+        <translation>Welcher Pfad soll geprüft werden?</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is excluded from scans by the folder &quot;%s&quot;.</source>
+        <translation>&quot;%s&quot; wird durch den Ordner &quot;%s&quot; von Prüfungen ausgenommen.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is excluded from scans by the file &quot;%s&quot;.</source>
+        <translation>&quot;%s&quot; wird durch die Datei &quot;%s&quot; von Prüfungen ausgenommen.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is excluded from scans by the extension &quot;%s&quot;.</source>
+        <translation>&quot;%s&quot; wird durch die Erweiterung &quot;%s&quot; von Prüfungen ausgenommen.</translation>
+    </message>
+    <message>
+        <source>This row belongs to this product.</source>
+        <translation>Diese Zeile gehört zu diesem Produkt.</translation>
+    </message>
+    <message>
+        <source>This row belongs to another product (%s).</source>
+        <translation>Diese Zeile gehört zu einem anderen Produkt (%s).</translation>
+    </message>
+    <message>
+        <source>It matched the network path &quot;%s&quot;.</source>
+        <translation>Sie trifft über den Netzwerkpfad &quot;%s&quot; zu.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is not excluded from scans.</source>
+        <translation>&quot;%s&quot; ist von keiner Prüfung ausgenommen.</translation>
+    </message>
 </context>
 </TS>

@@ -3,9 +3,11 @@
 #include <filesystem>
 
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 void BindingTest::AddProbeAs(const std::string& name) const {
-    std::filesystem::copy_file(Q9_PROBE_LIBRARY, Install().PathOf(platform::LibraryFileName(name)));
+    std::filesystem::copy_file(TestPath("binding_probe"),
+                               Install().PathOf(platform::LibraryFileName(name)));
 }
 
 std::vector<std::string> BindingTest::Unloads() const {
@@ -13,7 +15,7 @@ std::vector<std::string> BindingTest::Unloads() const {
 }
 
 void BindingTest::AddHandleProbeAs(const std::string& name) const {
-    std::filesystem::copy_file(Q9_HANDLE_PROBE_LIBRARY,
+    std::filesystem::copy_file(TestPath("handle_probe"),
                                Install().PathOf(platform::LibraryFileName(name)));
 }
 

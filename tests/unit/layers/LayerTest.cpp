@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+#include "support/TestPaths.h"
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -106,9 +108,9 @@ protected:
         return "";
     }
 
-    const fs::path source_ = fs::path(Q9_SOURCE_DIR) / "src";
-    const std::set<std::string> widgets_ = HeadersIn(Q9_QT_WIDGETS_INCLUDE_DIR);
-    const std::set<std::string> core_ = HeadersIn(Q9_QT_CORE_INCLUDE_DIR);
+    const fs::path source_ = fs::path(TestPath("source")) / "src";
+    const std::set<std::string> widgets_ = HeadersIn(TestPath("qt_widgets_include"));
+    const std::set<std::string> core_ = HeadersIn(TestPath("qt_core_include"));
 };
 
 TEST_F(LayerTest, EveryTopFolderIsALayerWithItsOwnTarget) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/MountTable.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ using platform::MountEntry;
 using platform::MountTable;
 
 MountTable Fixture(const std::string& name) {
-    return MountTable::FromFile(std::string(Q9_TEST_DATA_DIR) + "/platform/" + name);
+    return MountTable::FromFile(TestPath("data") + "/platform/" + name);
 }
 
 std::vector<std::string> MountPoints(const std::vector<MountEntry>& entries) {

@@ -16,13 +16,14 @@
 #include <vector>
 
 #include "platform/ProgramLauncher.h"
+#include "support/TestPaths.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using platform::StartProgram;
 
-const std::string kHelper = std::string(Q9_HELPER_DIR) + "/q9_platform_helper";
+const std::string kHelper = TestPath("helpers") + "/q9_platform_helper";
 
 // Waits for another process to write path (which it renames into place);
 // generous, as a loaded machine may take a while to start a program.

@@ -6,13 +6,14 @@
 #include <utility>
 
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 namespace {
 
 using platform::LibraryFileName;
 using platform::SharedLibrary;
 
-const std::string kSiblingDirectory = Q9_SIBLING_DIR;
+const std::string kSiblingDirectory = TestPath("sibling_dir");
 constexpr const char* kSibling = "Q9TestSibling";
 
 // True when the sibling library is mapped into this process now.

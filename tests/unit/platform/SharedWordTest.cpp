@@ -8,6 +8,7 @@
 
 #include "platform/ProblemReport.h"
 #include "platform/SharedWord.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ struct HelperResult {
 
 // Runs the helper program with a command line made of safe words only.
 HelperResult RunHelper(const std::string& arguments) {
-    const std::string command = std::string(Q9_HELPER_DIR) + "/q9_platform_helper " + arguments;
+    const std::string command = TestPath("helpers") + "/q9_platform_helper " + arguments;
     HelperResult result;
     FILE* pipe = popen(command.c_str(), "r");
     if (!pipe) return result;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "support/TestPaths.h"
 #include "text/StringTable.h"
 
 namespace {
@@ -142,8 +143,9 @@ TEST(StringTable, InsertsOfTheEnglishTexts) {
 class GermanStringTable : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(m_translator.load(QString::fromUtf8(Q9_GERMAN_TRANSLATION)))
-            << Q9_GERMAN_TRANSLATION;
+        ASSERT_TRUE(
+            m_translator.load(QString::fromStdString(TestPath("translations") + "/Q9CU_1031.qm")))
+            << TestPath("translations");
     }
 
     // No translator is installed in this program, so LoadString gives the

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include "support/TemporaryInstallation.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ protected:
         environment.insert("Q9_REGISTRY_DIR",
                            QString::fromStdString(install.Directory() + "registry"));
         process.setProcessEnvironment(environment);
-        process.start(Q9_ADMIN_PROGRAM, arguments);
+        process.start(QString::fromStdString(TestPath("admin")), arguments);
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(30000));

@@ -8,10 +8,11 @@
 #include "options/StoreKeys.h"
 #include "support/StderrCapture.h"
 #include "support/TemporaryInstallation.h"
+#include "support/TestPaths.h"
 
 namespace {
 
-std::string DataFile(const char* name) { return std::string(Q9_DEMO_DATA_DIR) + "/" + name; }
+std::string DataFile(const char* name) { return TestPath("demo_data") + "/" + name; }
 
 // Reads words of one store file: the store is pointed at it, inside an empty
 // installation of the test's own, so that no factory default fills a gap.

@@ -4,10 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "ZoneTestSupport.h"
+#include "support/TestPaths.h"
 
 TEST(ZoneLibraryLoadTest, ExportsWorkWhenLoadedByName) {
     TemporaryInstallation install;
-    void* library = dlopen(Q9_LIBRARY_DIR "/libOrvDMZ.so", RTLD_NOW | RTLD_LOCAL);
+    void* library = dlopen((TestPath("library") + "/libOrvDMZ.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     using Create = void* (*)();
     using Add = int32_t (*)(void*, const char*, const char*, const void*);

@@ -9,12 +9,13 @@
 
 #include "support/LocaleEnvironment.h"
 #include "OrvI18N.h"
+#include "support/TestPaths.h"
 
 namespace {
 
 // Where the build puts the compiled test translation, as an installation
 // directory's "Lang" folder.
-const std::string kInstallation = Q9_HELPER_DIR "/OrvI18N/";
+const std::string kInstallation = TestPath("helpers") + "/OrvI18N/";
 
 }  // namespace
 
@@ -48,7 +49,7 @@ TEST(TranslationFileTest, AustrianSessionUsesTheGermanFile) {
 TEST(TranslationFileTest, ExportsWorkWhenLoadedByName) {
     LocaleEnvironment environment;
     environment.UseLocale("de_DE.UTF-8");
-    void* library = dlopen(Q9_LIBRARY_DIR "/libOrvI18N.so", RTLD_NOW | RTLD_LOCAL);
+    void* library = dlopen((TestPath("library") + "/libOrvI18N.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     using Load = void* (*)(const char*, const char*);
     using Free = void (*)(void*);

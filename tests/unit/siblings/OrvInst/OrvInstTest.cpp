@@ -6,6 +6,7 @@
 #include "support/StderrCapture.h"
 #include "support/TemporaryInstallation.h"
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ const char* const kEdition =
 TEST_F(OrvInstTest, LoadedByNameItAnswersAsTheSystemCallsIt) {
     installation.Write("Q9Sec.dat", kEdition);
     platform::SharedLibrary library;
-    ASSERT_TRUE(library.Load(Q9_LIBRARY_DIR, "OrvInst"));
+    ASSERT_TRUE(library.Load(TestPath("library"), "OrvInst"));
 
     using GetInt = int32_t(const char*, const char*, int32_t, const char*);
     using GetString = int32_t(const char*, const char*, const char*, char*, uint32_t, const char*);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ChildProcess.h"
+#include "support/TestPaths.h"
 
 namespace store_test {
 
@@ -8,7 +9,7 @@ namespace store_test {
 class StoreHelper : public ChildProcess {
 public:
     explicit StoreHelper(std::vector<std::string> arguments)
-        : ChildProcess(Q9_HELPER_DIR "/q9_store_helper", std::move(arguments)) {}
+        : ChildProcess(TestPath("helpers") + "/q9_store_helper", std::move(arguments)) {}
 };
 
 }  // namespace store_test

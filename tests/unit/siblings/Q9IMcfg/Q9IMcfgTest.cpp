@@ -6,6 +6,7 @@
 #include "support/StderrCapture.h"
 #include "support/TemporaryInstallation.h"
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ protected:
 TEST_F(Q9IMcfgTest, LoadedByNameItAnswersAsTheSystemCallsIt) {
     installation.Write("Q9IMcfg.ini", "[Installed]\n3=1\n");
     platform::SharedLibrary library;
-    ASSERT_TRUE(library.Load(Q9_LIBRARY_DIR, "Q9IMcfg"));
+    ASSERT_TRUE(library.Load(TestPath("library"), "Q9IMcfg"));
     EXPECT_EQ(library.CallOr<int32_t(int32_t)>(0, "GetIMInstall", 3), 1);
     EXPECT_EQ(library.CallOr<int32_t(int32_t)>(0, "GetIMInstall", 2), 0);
 }

@@ -8,6 +8,7 @@
 
 #include "MsgFltTestSupport.h"
 #include "Q9MsgFlt.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ TEST_F(EditorProcessTest, EditorMakesAnApplicationWhenTheProcessHasNone) {
     environment.insert("Q9_INSTALL_DIR", QString::fromStdString(install.Directory()));
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     helper.setProcessEnvironment(environment);
-    helper.start(Q9_HELPER_DIR "/q9_q9msgflt_helper", {});
+    helper.start(QString::fromStdString(TestPath("helpers") + "/q9_q9msgflt_helper"), {});
     ASSERT_TRUE(helper.waitForFinished(30000));
     EXPECT_EQ(helper.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(helper.exitCode(), 0) << helper.readAllStandardError().toStdString();
@@ -32,7 +33,8 @@ TEST_F(EditorProcessTest, EditorMakesAnApplicationWhenTheProcessHasNone) {
 
 TEST_F(EditorProcessTest, ExportsWorkWhenLoadedByName) {
     WriteRules(kTwoRules);
-    void* library = dlopen(Q9_LIBRARY_DIR "/libQ9MsgFlt.so", RTLD_NOW | RTLD_LOCAL);
+    void* library =
+        dlopen((TestPath("library") + "/libQ9MsgFlt.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     using Call = int32_t (*)();
     using Apply = int32_t (*)(uint32_t, uint32_t);

@@ -7,6 +7,7 @@
 #include "support/StderrCapture.h"
 #include "support/TemporaryInstallation.h"
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ protected:
 TEST_F(Q9P3ATHLTest, LoadedByNameItAnswersAsTheSystemCallsIt) {
     installation.Write("Q9P3Accounts.ini", kAccounts);
     platform::SharedLibrary library;
-    ASSERT_TRUE(library.Load(Q9_LIBRARY_DIR, "Q9P3ATHL"));
+    ASSERT_TRUE(library.Load(TestPath("library"), "Q9P3ATHL"));
     void* accounts = library.CallOr<void*()>(nullptr, "Q9P3ATHL_Create");
     ASSERT_NE(accounts, nullptr);
     EXPECT_EQ(library.CallOr<int32_t(void*)>(0, "Q9P3ATHL_Load", accounts), 1);

@@ -15,6 +15,7 @@
 #include "support/TemporaryInstallation.h"
 #include "common/ProfileFile.h"
 #include "platform/SharedLibrary.h"
+#include "support/TestPaths.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ protected:
 TEST_F(Q9SSCtrlTest, LoadedByNameItAnswersAsTheSystemCallsIt) {
     installation.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
     platform::SharedLibrary library;
-    ASSERT_TRUE(library.Load(Q9_LIBRARY_DIR, "Q9SSCtrl"));
+    ASSERT_TRUE(library.Load(TestPath("library"), "Q9SSCtrl"));
     using ItemCall = int32_t(int32_t);
     EXPECT_EQ(library.CallOr<int32_t()>(0, "Q9SSCtrl_HasEnoughPrivilege"), 1);
     EXPECT_EQ(library.CallOr<ItemCall>(0, "Q9SSCtrl_CanBeRegister", 32), 1);
