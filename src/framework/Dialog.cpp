@@ -30,10 +30,12 @@ bool CDialog::Create() {
 int CDialog::DoModal() {
     if (!Create()) return kNotMade;
     m_power.Start();
-    const int result = exec();
+    const int result = QDialog::exec();
     m_power.Stop();
     return result;
 }
+
+int CDialog::exec() { return DoModal(); }
 
 void CDialog::EndDialog(int result) { done(result); }
 

@@ -23,6 +23,9 @@ public:
     // Create, then the modal run; the result EndDialog gave, or kNotMade.
     // A dialog object may run again: its controls stay as they were.
     int DoModal();
+    // The same as DoModal, so that a dialog opened the toolkit's way is made
+    // and started as well.
+    int exec() override;
     void EndDialog(int result);
 
     QWidget* Control(int id) const;

@@ -51,17 +51,23 @@ std::vector<RememberedConnection> RememberedConnections() {
     return connections;
 }
 
-std::string RememberedNetworkPathOf(const std::string& path) {
-    const std::vector<RememberedConnection> connections = RememberedConnections();
-    const RememberedConnection* best = nullptr;
-    for (const RememberedConnection& connection : connections) {
+std::optional<RememberedConnection> RememberedConnectionOf(const std::string& path) {
+    std::optional<RememberedConnection> best;
+    for (RememberedConnection& connection : RememberedConnections()) {
         if (!MountPointHolds(connection.mountPoint, path)) continue;
         // Session connections come first, so a persistent one of the same
         // mount point does not replace them.
-        if (!best || connection.mountPoint.size() > best->mountPoint.size()) best = &connection;
+        if (!best || connection.mountPoint.size() > best->mountPoint.size()) {
+            best = std::move(connection);
+        }
     }
-    if (!best) return {};
-    return NetworkPathBelow(best->remotePath, best->mountPoint, path);
+    return best;
+}
+
+std::string RememberedNetworkPathOf(const std::string& path) {
+    const std::optional<RememberedConnection> connection = RememberedConnectionOf(path);
+    if (!connection) return {};
+    return NetworkPathBelow(connection->remotePath, connection->mountPoint, path);
 }
 
 }  // namespace platform

@@ -9,6 +9,7 @@
 //
 // e.g. [HKEY_CURRENT_USER\NetWork\/mnt/share] "RemotePath"="//server/share".
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,10 +25,14 @@ struct RememberedConnection {
 // NetWork first, then those under NetWork\Persistent, each in key order.
 std::vector<RememberedConnection> RememberedConnections();
 
-// The network path of path when it lies on a remembered drive: the remote
-// path joined with the part of path below the mount point. NetWork is asked
+// The remembered connection whose mount point holds path: NetWork is asked
 // before NetWork\Persistent, and of several mount points holding path the
-// longest wins. Empty text when none holds it.
+// longest wins. None when no remembered drive holds it.
+std::optional<RememberedConnection> RememberedConnectionOf(const std::string& path);
+
+// The network path of path when it lies on a remembered drive: the remote
+// path of RememberedConnectionOf(path) joined with the part of path below its
+// mount point. Empty text when none holds it.
 std::string RememberedNetworkPathOf(const std::string& path);
 
 }  // namespace platform

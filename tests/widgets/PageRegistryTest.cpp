@@ -1,6 +1,6 @@
 // The page registry: every built page is made from the form its row names,
-// every form is a page's or a shell's, and every registered page keeps to
-// its own bits of the store, in every edition.
+// every form is a page's, a shell's or a dialog's that pages open, and every
+// registered page keeps to its own bits of the store, in every edition.
 
 #include <QWidget>
 #include <algorithm>
@@ -15,6 +15,9 @@
 #include "SwitchPageTest.h"
 #include "pages/BoundPage.h"
 #include "pages/PageRegistry.h"
+#include "pages/targets/AddExtensionDlg.h"
+#include "pages/targets/AddFolderDlg.h"
+#include "pages/targets/ScanListDlg.h"
 #include "q9cfgul.h"
 #include "session/StoreCommit.h"
 #include "shell/ConfigDlg.h"
@@ -26,6 +29,9 @@ namespace {
 // The forms that are not pages: the shells' dialogs.
 constexpr std::array<int, 2> kShellTemplates = {CConfigDlg::kTemplateId,
                                                 CPageShellDlg::kTemplateId};
+// The forms of the dialogs that pages open.
+constexpr std::array<int, 3> kPageDialogTemplates = {
+    CScanListDlg::kTemplateId, CAddFolderDlg::kTemplateId, CAddExtensionDlg::kTemplateId};
 
 std::vector<PageRow> BuiltRows() {
     std::vector<PageRow> rows;
@@ -64,17 +70,19 @@ TEST_F(PageRegistryTest, EveryBuiltPageIsMadeFromTheFormOfItsRow) {
     }
 }
 
-TEST_F(PageRegistryTest, EveryFormBelongsToABuiltPageOrAShell) {
+TEST_F(PageRegistryTest, EveryFormBelongsToABuiltPageAShellOrADialog) {
     std::set<int> used(kShellTemplates.begin(), kShellTemplates.end());
+    used.insert(kPageDialogTemplates.begin(), kPageDialogTemplates.end());
     for (const PageRow& row : BuiltRows()) used.insert(row.templateId);
     for (int form : FormTemplates()) EXPECT_EQ(used.count(form), 1U) << "Dialog" << form << ".ui";
 }
 
-TEST_F(PageRegistryTest, EveryBuiltRowAndShellHasItsForm) {
+TEST_F(PageRegistryTest, EveryBuiltRowShellAndDialogHasItsForm) {
     const std::set<int> forms = FormTemplates();
     for (const PageRow& row : BuiltRows())
         EXPECT_EQ(forms.count(row.templateId), 1U) << row.templateId;
     for (int shell : kShellTemplates) EXPECT_EQ(forms.count(shell), 1U) << shell;
+    for (int dialog : kPageDialogTemplates) EXPECT_EQ(forms.count(dialog), 1U) << dialog;
 }
 
 // --- Bit discipline ---------------------------------------------------------

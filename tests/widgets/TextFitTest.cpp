@@ -2,7 +2,8 @@
 // box, radio button or push button that keeps its text on one line is at
 // least as wide as the text (with the check indicator) needs, and a label
 // that wraps its text is tall enough for the lines it wraps into. Forms are
-// the built pages of the registry and the shells' templates.
+// the built pages of the registry, the shells' templates and the dialogs
+// that pages open.
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -18,6 +19,9 @@
 #include "UiLanguages.h"
 #include "pages/PageRegistry.h"
 #include "pages/SettingsPage.h"
+#include "pages/targets/AddExtensionDlg.h"
+#include "pages/targets/AddFolderDlg.h"
+#include "pages/targets/ScanListDlg.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
 #include "support/TestPaths.h"
@@ -147,6 +151,20 @@ TEST_P(TextFitTest, EveryTextOfEveryFormFitsItsControl) {
     QWidget pageShellForm;
     Ui::Dialog1001().setupUi(&pageShellForm);
     CheckForm(pageShellForm, CPageShellDlg::kTemplateId);
+}
+
+TEST_P(TextFitTest, EveryTextOfTheTargetDialogsFitsItsControl) {
+    ScopedUiLanguage language(GetParam());
+    ASSERT_TRUE(language.Loaded()) << GetParam().file;
+    QWidget scanListForm;
+    Ui::Dialog1007().setupUi(&scanListForm);
+    CheckForm(scanListForm, CScanListDlg::kTemplateId);
+    QWidget addFolderForm;
+    Ui::Dialog1028().setupUi(&addFolderForm);
+    CheckForm(addFolderForm, CAddFolderDlg::kTemplateId);
+    QWidget addExtensionForm;
+    Ui::Dialog1029().setupUi(&addExtensionForm);
+    CheckForm(addExtensionForm, CAddExtensionDlg::kTemplateId);
 }
 
 std::string TextFitLanguageName(const testing::TestParamInfo<UiLanguage>& info) {

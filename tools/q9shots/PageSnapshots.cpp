@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "DialogSnapshots.h"
 #include "q9cfgul.h"
 #include "session/EditionFlags.h"
 #include "shell/CfgApp.h"
@@ -55,6 +56,19 @@ int SaveEachPage(CConfigDlg& dialog, const QString& folder, const char* edition)
     return saved > 0 ? 0 : 1;
 }
 
+int SaveConfigDialog(uint32_t flags, const QString& folder, const char* edition) {
+    CConfigDlg dialog(-1, flags, nullptr);
+    if (!dialog.Create()) {
+        std::fprintf(stderr, "q9shots: the configuration dialog cannot be made\n");
+        return 1;
+    }
+    dialog.show();
+    const int result = SaveEachPage(dialog, folder, edition);
+    dialog.reject();
+    ClearConfigWindow();
+    return result;
+}
+
 }  // namespace
 
 bool ParseEdition(const std::string& text, Edition* edition) {
@@ -83,15 +97,9 @@ int RenderConfigDialog(const SnapshotRequest& request, int argc, char** argv) {
         std::fprintf(stderr, "q9shots: cannot make the folder %s\n", qPrintable(folder));
         return 1;
     }
-    CConfigDlg dialog(-1, FlagsFor(request.edition), nullptr);
-    if (!dialog.Create()) {
-        std::fprintf(stderr, "q9shots: the configuration dialog cannot be made\n");
-        return 1;
-    }
-    dialog.show();
-    const int result = SaveEachPage(dialog, folder, EditionName(request.edition));
-    dialog.reject();
-    ClearConfigWindow();
+    const int result = request.targetDialogs ? SaveTargetDialogs(folder)
+                                             : SaveConfigDialog(FlagsFor(request.edition), folder,
+                                                                EditionName(request.edition));
     MessageService::Install(nullptr);
     return result;
 }

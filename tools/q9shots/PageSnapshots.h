@@ -7,6 +7,7 @@ enum class Edition { kInstalled, kNormal, kMaster, kLight };
 struct SnapshotRequest {
     Edition edition = Edition::kInstalled;
     std::string outputDirectory = "screenshots";
+    bool targetDialogs = false;  // the target dialogs instead of the configuration dialog
 };
 
 // "installed", "normal", "master" or "light"; false for anything else.
@@ -15,5 +16,6 @@ bool ParseEdition(const std::string& text, Edition* edition);
 // Opens the configuration dialog of the installation in the edition asked
 // for, selects each page of its tree in turn and saves the dialog as
 // <out>/<edition>-page<id>.png, printing each file name; the dialog ends as
-// Cancel does. Returns the process's exit code.
+// Cancel does. With targetDialogs, saves the target dialogs instead (see
+// DialogSnapshots.h). Returns the process's exit code.
 int RenderConfigDialog(const SnapshotRequest& request, int argc, char** argv);

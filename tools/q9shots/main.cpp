@@ -1,10 +1,11 @@
 // q9shots: renders the configuration dialog of an installation to PNG files,
-// one per page of its tree, for machines without a display and for the
-// documentation. It runs the dialog of the library it is linked with, on the
+// one per page of its tree (or, with --dialogs, the dialogs that edit what a
+// scan covers), for machines without a display and for the documentation.
+// It runs the dialogs of the library it is linked with, on the
 // installation it lies in (or Q9_INSTALL_DIR), and changes nothing: every
 // dialog ends as Cancel does.
 //
-//   q9shots [--edition installed|normal|master|light] [--out DIR]
+//   q9shots [--edition installed|normal|master|light] [--dialogs] [--out DIR]
 
 #include <cstdio>
 #include <cstring>
@@ -16,10 +17,12 @@ namespace {
 
 void PrintUsage(FILE* to) {
     std::fputs(
-        "usage: q9shots [--edition installed|normal|master|light] [--out DIR]\n"
-        "Renders the configuration dialog with each page of its tree to DIR/<edition>-page<id>.png\n"
+        "usage: q9shots [--edition installed|normal|master|light] [--dialogs] [--out DIR]\n"
+        "Renders the configuration dialog with each page of its tree to "
+        "DIR/<edition>-page<id>.png\n"
         "(DIR defaults to ./screenshots) and prints the file names. 'installed' (the default)\n"
-        "uses the edition of the installation's secure profile.\n",
+        "uses the edition of the installation's secure profile. --dialogs renders the dialogs\n"
+        "that edit what a scan covers instead, to DIR/dialog<template>.png.\n",
         to);
 }
 
@@ -40,6 +43,8 @@ int main(int argc, char** argv) {
                 PrintUsage(stderr);
                 return 2;
             }
+        } else if (argument == "--dialogs") {
+            request.targetDialogs = true;
         } else if (argument == "--out" && hasValue) {
             request.outputDirectory = argv[++i];
         } else {

@@ -17,6 +17,37 @@
     </message>
 </context>
 <context>
+    <name>Dialog1007</name>
+    <message>
+        <source>Set List to Scan</source>
+        <translation>Prüfliste festlegen</translation>
+    </message>
+    <message>
+        <source>If [List to Scan] is not set, all of the local hard drives will be scanned.</source>
+        <translation>Wenn die [Prüfliste] nicht festgelegt ist, werden alle lokalen Festplatten geprüft.</translation>
+    </message>
+    <message>
+        <source>Add  &gt;&gt;</source>
+        <translation>Hinzufügen  &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;&lt; Delete</source>
+        <translation>&lt;&lt; Löschen</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Alle löschen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1013</name>
     <message>
         <source>Select the functions to use</source>
@@ -135,6 +166,42 @@
     <message>
         <source>Default</source>
         <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1028</name>
+    <message>
+        <source>Add folders</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1029</name>
+    <message>
+        <source>Add extensions</source>
+        <translation>Erweiterungen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Enter extensions excluded from the scan.
+(ex) dmp/tmp/dbx/ttf</source>
+        <translation>Von der Prüfung ausgeschlossene Erweiterungen eingeben.
+(Bsp.) dmp/tmp/dbx/ttf</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1109,18 @@ Möchten Sie die Explorer-Prüfung auswählen?</translation>
     <message>
         <source>Please enter the value with more than 10 minutes.</source>
         <translation>Bitte geben Sie einen Wert von mindestens 10 Minuten ein.</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Arbeitsplatz</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Home Folder</source>
+        <translation>Persönlicher Ordner</translation>
     </message>
     <message>
         <source>Test a path</source>

@@ -1,8 +1,7 @@
-#include "platform/RememberedConnections.h"
-
 #include <gtest/gtest.h>
 
 #include "platform/MountTable.h"
+#include "platform/RememberedConnections.h"
 #include "session/RegistryHelpers.h"
 #include "support/TemporaryRegistry.h"
 
@@ -70,6 +69,19 @@ TEST_F(RememberedConnectionsTest, LongestMountPointWins) {
     Remember("NetWork\\/mnt/deep", "//other/deep");
     EXPECT_EQ(RememberedNetworkPathOf("/mnt/deep/f"), "//other/deep/f");
     EXPECT_EQ(RememberedNetworkPathOf("/mnt/other/f"), "//server/all/other/f");
+}
+
+TEST_F(RememberedConnectionsTest, TheConnectionHoldingAPathNamesItsDrive) {
+    Remember("NetWork\\Persistent\\/mnt/share", "//old/share");
+    Remember("NetWork\\/mnt", "//server/all");
+    Remember("NetWork\\/mnt/share", "//new/share");
+    const auto connection = platform::RememberedConnectionOf("/mnt/share/docs");
+    ASSERT_TRUE(connection.has_value());
+    EXPECT_EQ(connection->mountPoint, "/mnt/share");
+    EXPECT_EQ(connection->remotePath, "//new/share");
+    EXPECT_FALSE(connection->persistent);
+    EXPECT_EQ(platform::RememberedConnectionOf("/mnt/other")->mountPoint, "/mnt");
+    EXPECT_FALSE(platform::RememberedConnectionOf("/home/user").has_value());
 }
 
 TEST_F(RememberedConnectionsTest, MountedNetworkDriveAndRememberedOneSideBySide) {
