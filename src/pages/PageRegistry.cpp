@@ -2,6 +2,7 @@
 
 #include "pages/scan/FeatureSwitchPage.h"
 #include "pages/scan/MailSwitchPage.h"
+#include "pages/targets/ExcludePage.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Unbuilt(kOutlookScan, 118, 10),
     Unbuilt(kOutlookMonitorSpare, 119, 11),
     Unbuilt(kOtherConfig, 107, 20),
-    Unbuilt(kExclude, 109, 2),
+    Built<CExcludePage>(kExclude, 2),
     Unbuilt(kSecurity, 108, 14),
     Unbuilt(kPolicy, 110, 3),
     Unbuilt(kWizardScan, 1003, 0),

@@ -205,6 +205,45 @@
     </message>
 </context>
 <context>
+    <name>Dialog109</name>
+    <message>
+        <source>Use the items not to scan</source>
+        <translation>Ausnahmen von der Prüfung verwenden</translation>
+    </message>
+    <message>
+        <source>Items not to scan :</source>
+        <translation>Nicht zu prüfende Elemente:</translation>
+    </message>
+    <message>
+        <source>Add folders</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add extensions</source>
+        <translation>Dateitypen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete all</source>
+        <translation>Alle löschen</translation>
+    </message>
+    <message>
+        <source>Test a path...</source>
+        <translation>Pfad prüfen...</translation>
+    </message>
+    <message>
+        <source>Scan System Restore Folders (Windows Me/XP Only)</source>
+        <translation>Systemwiederherstellungsordner prüfen (nur Windows Me/XP)</translation>
+    </message>
+</context>
+<context>
     <name>StringTable</name>
     <message>
         <source>Easy Configuration</source>
