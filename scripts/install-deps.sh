@@ -8,6 +8,7 @@ PACKAGES=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libgtest-dev libgmock-dev libbenchmark-dev
     libsodium-dev
+    libcanberra-dev
     fonts-dejavu-core
 )
 

@@ -76,12 +76,24 @@ constexpr uint32_t kExtraRegistries = 0x800;       // 16
 constexpr uint32_t kExtraStartupFolders = 0x1000;  // 16
 constexpr uint32_t kExtraSystemFiles = 0x2000;     // 16
 constexpr uint32_t kExtraStartupItems = 0x3800;
+// Section 7: the monitor protects itself, and tells the user so (the policy
+// page).
+constexpr uint32_t kExtraSelfProtect = 0x80;
+constexpr uint32_t kExtraSelfProtectAlerts = 0x8000;
 
 // CEK_MessengerSelect (key 61 of section 15).
 constexpr uint32_t kMessengerAutoRecognition = 0x1;
 
-// CEK_MacroOptions (key 6 of section 2): kinds of possible harmful programs;
-// its other bits belong to the policy page.
+// CEK_MacroOptions (key 6 of section 2): the policy page's macro choice and
+// system areas, and the kinds of possible harmful programs.
+constexpr uint32_t kMacroRepair = 0x1;  // repair the detected macro viruses
+constexpr uint32_t kMacroForbid = 0x2;  // macros not allowed
+constexpr uint32_t kMacroChoice = kMacroRepair | kMacroForbid;
+constexpr uint32_t kAreaMemory = 0x100;      // memory scan
+constexpr uint32_t kAreaBootSector = 0x200;  // boot sector scan
+constexpr uint32_t kAreaSelfScan = 0x400;    // self scan
+constexpr uint32_t kAreaProcesses = 0x800;   // process scan
+constexpr uint32_t kAreaStartup = 0x1000;    // startup program scan
 constexpr uint32_t kHarmfulJoke = 0x10000;
 constexpr uint32_t kHarmfulAdware = 0x20000;
 constexpr uint32_t kHarmfulKeyLogger = 0x40000;

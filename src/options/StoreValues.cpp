@@ -27,3 +27,7 @@ void WriteWord(StoreAddress address, uint32_t word) {
 void WriteText(StoreAddress address, const std::string& text) {
     Q9CfgE_SetStrEx(address.section, address.key, text.c_str());
 }
+
+void WriteEncText(StoreAddress address, const std::string& text) {
+    Q9CfgE_SetEncStrEx(address.section, address.key, text.c_str());
+}

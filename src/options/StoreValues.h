@@ -37,3 +37,5 @@ public:
 // Writes one value into the store.
 void WriteWord(StoreAddress address, uint32_t word);
 void WriteText(StoreAddress address, const std::string& text);
+// Writes a secret: the store enciphers it before it keeps it.
+void WriteEncText(StoreAddress address, const std::string& text);

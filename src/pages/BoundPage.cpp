@@ -26,10 +26,12 @@ void CBoundPage::MarkModified() {
     if (m_applies == Applies::kYes) m_needApply = 1;
 }
 
-void CBoundPage::Load() {
-    ShowValues(StoreValues());
+void CBoundPage::LoadFrom(const StoreValues& values) {
+    ShowValues(values);
     m_modified = 0;
 }
+
+void CBoundPage::Load() { LoadFrom(StoreValues()); }
 
 int32_t CBoundPage::OnDefault() {
     ShowValues(DefaultValues());

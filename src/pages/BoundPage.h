@@ -45,6 +45,9 @@ protected:
 
     // The one routine behind Load and Default.
     void ShowValues(const StoreValues& values);
+    // Load's work from a source of values: shows them and leaves the page
+    // unmodified. Load itself shows the store.
+    void LoadFrom(const StoreValues& values);
     // Marks the page changed by the user.
     void MarkModified();
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -90,14 +91,21 @@ public:
         return word;
     }
     void Connect(const std::function<void()>& changed) override {
-        for (QAbstractButton* radio : m_radios)
-            QObject::connect(radio, &QAbstractButton::clicked, radio, [changed] { changed(); });
+        // A click on the radio that is on already changes nothing.
+        for (QAbstractButton* radio : m_radios) {
+            QObject::connect(radio, &QAbstractButton::pressed, radio,
+                             [this, radio] { m_pressedWasOn = radio->isChecked(); });
+            QObject::connect(radio, &QAbstractButton::clicked, radio, [this, changed] {
+                if (!m_pressedWasOn) changed();
+            });
+        }
     }
 
 private:
     std::vector<QPointer<QAbstractButton>> m_radios;
     StoreAddress m_word;
     WordCodec m_codec;
+    bool m_pressedWasOn = false;
 };
 
 class ComboBinding : public Binding {
@@ -126,8 +134,8 @@ private:
 
 class NumberBinding : public Binding {
 public:
-    NumberBinding(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high)
-        : m_spin(spin), m_word(word) {
+    NumberBinding(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high, FieldCheck check)
+        : m_spin(spin), m_word(word), m_check(check) {
         m_spin->SetRange32(low, high);
     }
 
@@ -141,7 +149,8 @@ public:
     }
     int32_t Validate(QWidget* owner) const override {
         QLineEdit* field = m_spin->GetBuddy();
-        if (field == nullptr || !IsEnabledItself(field)) return 0;
+        if (field == nullptr) return 0;
+        if (m_check == FieldCheck::kWhenEnabled && !IsEnabledItself(field)) return 0;
         if (ValidateGroupedNumber(owner, m_spin) == 0) return 0;
         field->setFocus();
         field->selectAll();
@@ -156,6 +165,7 @@ public:
 private:
     QPointer<CNumberSpin> m_spin;
     StoreAddress m_word;
+    FieldCheck m_check;
 };
 
 class TextBinding : public Binding {
@@ -208,8 +218,9 @@ void CPageBinder::Combo(QComboBox* combo, StoreAddress word, WordCodec codec) {
     Add(std::make_unique<ComboBinding>(combo, word, std::move(codec)));
 }
 
-void CPageBinder::Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high) {
-    Add(std::make_unique<NumberBinding>(spin, word, low, high));
+void CPageBinder::Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high,
+                         FieldCheck check) {
+    Add(std::make_unique<NumberBinding>(spin, word, low, high, check));
 }
 
 void CPageBinder::Text(QLineEdit* edit, StoreAddress text, int32_t maxLength) {
@@ -217,6 +228,14 @@ void CPageBinder::Text(QLineEdit* edit, StoreAddress text, int32_t maxLength) {
 }
 
 void CPageBinder::Owns(StoreAddress word, uint32_t bits) { m_declared[word] |= bits; }
+
+void CPageBinder::OwnsText(StoreAddress text) { m_declaredTexts.push_back(text); }
+
+void CPageBinder::Rebuilt(StoreAddress word) { m_rebuilt.push_back(word); }
+
+bool CPageBinder::IsRebuilt(StoreAddress word) const {
+    return std::find(m_rebuilt.begin(), m_rebuilt.end(), word) != m_rebuilt.end();
+}
 
 void CPageBinder::EnableWhen(QAbstractButton* box, std::vector<QWidget*> dependents) {
     EnableRule rule{box, {}};
@@ -231,7 +250,8 @@ void CPageBinder::Show(const StoreValues& values) const {
 
 void CPageBinder::Save() const {
     // One read and one write per word, in the order the words were first
-    // bound; each binding changes only its own bits of what the store holds.
+    // bound; each binding changes only its own bits of what the store holds
+    // (of nothing, for a rebuilt word).
     std::vector<StoreAddress> order;
     std::map<StoreAddress, uint32_t> words;
     for (const auto& binding : m_bindings) {
@@ -240,7 +260,7 @@ void CPageBinder::Save() const {
         auto [it, isNew] = words.try_emplace(*address, 0);
         if (isNew) {
             order.push_back(*address);
-            it->second = StoreValues().Word(*address);
+            if (!IsRebuilt(*address)) it->second = StoreValues().Word(*address);
         }
         it->second = ReplaceBits(it->second, binding->Collect(it->second), binding->Mask());
     }
@@ -279,11 +299,12 @@ std::map<StoreAddress, uint32_t> CPageBinder::OwnedWords() const {
         if (const std::optional<StoreAddress> address = binding->Word())
             owned[*address] |= binding->Mask();
     }
+    for (const StoreAddress& word : m_rebuilt) owned[word] = kWholeWord;
     return owned;
 }
 
 std::vector<StoreAddress> CPageBinder::OwnedTexts() const {
-    std::vector<StoreAddress> texts;
+    std::vector<StoreAddress> texts = m_declaredTexts;
     for (const auto& binding : m_bindings) {
         if (const std::optional<StoreAddress> text = binding->TextAddress()) texts.push_back(*text);
     }

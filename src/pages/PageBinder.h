@@ -6,17 +6,20 @@
 //   Show      sets every bound control from a source of values (the store
 //             for Load, the factory defaults for Default);
 //   Save      re-reads each bound word from the store, replaces only the
-//             bits its controls own, and writes it back; texts are written
-//             whole;
+//             bits its controls own, and writes it back (a word declared
+//             rebuilt is made of its controls' bits alone); texts are
+//             written whole;
 //   Validate  runs the range and length checks of the enabled number and
-//             text fields with the common messages, in binding order, and
-//             puts the focus on the first field that fails;
+//             text fields (and of the number fields checked always) with
+//             the common messages, in binding order, and puts the focus on
+//             the first field that fails;
 //   enable rules: a dependent control is enabled while its check box is
 //             checked and itself enabled, re-run after every Show and every
 //             user change.
 //
 // Only a user's action on a bound control reports a change; setting
-// controls from values never does.
+// controls from values never does, nor does a click on the radio that is on
+// already.
 
 #include <QPointer>
 #include <cstdint>
@@ -47,6 +50,10 @@ enum class BitSense { kCheckedWhenSet, kCheckedWhenClear };
 // Whether Show sets a check box that is hidden or disabled by itself: the
 // function switches keep such a box as it is.
 enum class BitShow { kAlways, kWhenAvailable };
+// Whether Validate checks a field that is disabled by itself (its box is
+// clear): most pages check only what the user can change, some check every
+// field.
+enum class FieldCheck { kWhenEnabled, kAlways };
 
 class CPageBinder {
 public:
@@ -63,12 +70,19 @@ public:
     // A combo: item i stands for index i of the codec.
     void Combo(QComboBox* combo, StoreAddress word, WordCodec codec);
     // A number field (the spin's buddy) for a whole word, within low..high.
-    void Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high);
+    void Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high,
+                FieldCheck check = FieldCheck::kWhenEnabled);
     // A text field for a store text of at most maxLength characters.
     void Text(QLineEdit* edit, StoreAddress text, int32_t maxLength);
     // Bits that the page writes itself (a hook, not a control); declared so
     // that the page's share of the store is known in one place.
     void Owns(StoreAddress word, uint32_t bits);
+    // A text that the page writes itself (an enciphered one, say).
+    void OwnsText(StoreAddress text);
+    // Save writes word from its controls' bits alone: the bits that no
+    // control owns are cleared instead of kept, and the page owns the whole
+    // word.
+    void Rebuilt(StoreAddress word);
 
     // dependents are enabled while box is checked and enabled itself.
     void EnableWhen(QAbstractButton* box, std::vector<QWidget*> dependents);
@@ -86,7 +100,7 @@ public:
     // The bits of each word that the page owns: its controls' and the
     // declared ones.
     std::map<StoreAddress, uint32_t> OwnedWords() const;
-    // The texts its fields own.
+    // The texts its fields own and the declared ones.
     std::vector<StoreAddress> OwnedTexts() const;
 
     class Binding;
@@ -98,9 +112,12 @@ private:
     };
 
     void Add(std::unique_ptr<Binding> binding);
+    bool IsRebuilt(StoreAddress word) const;
 
     std::vector<std::unique_ptr<Binding>> m_bindings;
     std::vector<EnableRule> m_enableRules;
     std::map<StoreAddress, uint32_t> m_declared;
+    std::vector<StoreAddress> m_declaredTexts;
+    std::vector<StoreAddress> m_rebuilt;
     std::function<void()> m_changed;
 };

@@ -1,5 +1,8 @@
 #include "pages/PageRegistry.h"
 
+#include "pages/general/OtherConfigPage.h"
+#include "pages/general/PolicyPage.h"
+#include "pages/general/SecurityPage.h"
 #include "pages/scan/FeatureSwitchPage.h"
 #include "pages/scan/MailSwitchPage.h"
 #include "pages/targets/ExcludePage.h"
@@ -39,10 +42,10 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Unbuilt(kOutlookMonitor, 119, 11),
     Unbuilt(kOutlookScan, 118, 10),
     Unbuilt(kOutlookMonitorSpare, 119, 11),
-    Unbuilt(kOtherConfig, 107, 20),
+    Built<COtherConfigPage>(kOtherConfig, 20),
     Built<CExcludePage>(kExclude, 2),
-    Unbuilt(kSecurity, 108, 14),
-    Unbuilt(kPolicy, 110, 3),
+    Built<CSecurityPage>(kSecurity, 14),
+    Built<CPolicyPage>(kPolicy, 3),
     Unbuilt(kWizardScan, 1003, 0),
     Unbuilt(kWizardFeature, 1004, 0),
     Unbuilt(kScheduleTime, 1008, 0),

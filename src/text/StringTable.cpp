@@ -350,6 +350,9 @@ constexpr StringEntry kStrings[] = {
     {57436, QT_TRANSLATE_NOOP("StringTable", "This row belongs to another product (%s).")},
     {57437, QT_TRANSLATE_NOOP("StringTable", "It matched the network path \"%s\".")},
     {57438, QT_TRANSLATE_NOOP("StringTable", "\"%s\" is not excluded from scans.")},
+    {57450, QT_TRANSLATE_NOOP("StringTable",
+                              "The alert sound cannot be played: no sound device is available.")},
+    {57451, QT_TRANSLATE_NOOP("StringTable", "This file cannot be played as an alert sound.")},
 };
 
 constexpr bool IdsAscendUnique() {

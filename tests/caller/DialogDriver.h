@@ -1,10 +1,12 @@
 #pragma once
 
 // Acts as a person at the screen on the first dialog a call opens (not a
-// message box): runs the given steps on it once, then stops.
+// message box, nor the store's password prompt): runs the given steps on it
+// once, then stops.
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
 #include <functional>
@@ -15,6 +17,7 @@ public:
         QObject::connect(&m_timer, &QTimer::timeout, [this] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             if (!dialog || qobject_cast<QMessageBox*>(dialog) || m_done) return;
+            if (dialog->findChild<QLineEdit*>("password") != nullptr) return;
             m_done = true;
             m_steps(dialog);
         });

@@ -247,6 +247,16 @@ TEST_F(BoundPageTest, EachKindOfControlReportsTheUsersChange) {
     EXPECT_EQ(page->IsModified(), 1);
 }
 
+TEST_F(BoundPageTest, AClickOnTheRadioThatIsOnIsNoChange) {
+    SetWord(kOptions, 0x20);
+    auto page = Make();
+    ASSERT_TRUE(page->radios[1]->isChecked());
+    page->radios[1]->click();
+    EXPECT_EQ(page->IsModified(), 0);
+    page->radios[0]->click();
+    EXPECT_EQ(page->IsModified(), 1);
+}
+
 TEST_F(BoundPageTest, EnableRulesFollowTheBoxOnLoadAndOnClick) {
     SetWord(kOptions, 0);
     auto page = Make();

@@ -4,29 +4,10 @@
 
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "pages/RegisteredValues.h"
 #include "session/SiblingLibs.h"
 #include "text/MessageService.h"
 #include "text/StringTable.h"
-
-namespace {
-
-// The store, except that the page's switch word is what the registrations
-// say: the boxes follow the functions, not the stored bits.
-class RegisteredValues : public StoreValues {
-public:
-    RegisteredValues(StoreAddress word, uint32_t registered)
-        : m_word(word), m_registered(registered) {}
-
-    uint32_t Word(StoreAddress address) const override {
-        return address == m_word ? m_registered : StoreValues::Word(address);
-    }
-
-private:
-    StoreAddress m_word;
-    uint32_t m_registered;
-};
-
-}  // namespace
 
 CSwitchPage::CSwitchPage(int templateId, uint32_t wordKey)
     : CBoundPage(templateId, Applies::kYes), m_wordKey(wordKey) {}
@@ -42,13 +23,9 @@ void CSwitchPage::BindControls() {
 }
 
 void CSwitchPage::Load() {
-    uint32_t word = 0;
-    for (const Row& row : m_rows) {
-        if (Context().Siblings().ServiceControl(SC_IsRegistered, row.code, kServiceOption) != 0)
-            word |= SwitchBitOf(row.code);
-    }
-    ShowValues(RegisteredValues(Word(), word));
-    m_modified = 0;
+    std::vector<int32_t> codes;
+    for (const Row& row : m_rows) codes.push_back(row.code);
+    LoadFrom(RegisteredValues(Context().Siblings(), Word(), codes));
 }
 
 void CSwitchPage::DisableUnlessRegistrable(QAbstractButton* box, int32_t code) {
@@ -65,10 +42,7 @@ void CSwitchPage::SaveMore() {
 void CSwitchPage::Apply() {
     const uint32_t word = StoreValues().Word(Word());
     for (const Row& row : m_rows) {
-        if (!AppliesRow(row)) continue;
-        const bool on = (word & SwitchBitOf(row.code)) != 0;
-        Context().Siblings().ServiceControl(on ? SC_Register : SC_Unregister, row.code,
-                                            kServiceOption);
+        if (AppliesRow(row)) RegisterAsSwitched(Context().Siblings(), row.code, word);
     }
 }
 

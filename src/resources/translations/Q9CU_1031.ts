@@ -205,6 +205,104 @@
     </message>
 </context>
 <context>
+    <name>Dialog107</name>
+    <message>
+        <source>Alerts</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>Display an urgent alarm on the Home screen</source>
+        <translation>Dringende Warnung auf der Startseite anzeigen</translation>
+    </message>
+    <message>
+        <source>Display an alert icon at the task tray </source>
+        <translation>Warnsymbol in der Taskleiste anzeigen </translation>
+    </message>
+    <message>
+        <source>Show %s event messages</source>
+        <translation>Ereignismeldungen von %s anzeigen</translation>
+    </message>
+    <message>
+        <source>Show swift update event messages</source>
+        <translation>Meldungen der Schnellaktualisierung anzeigen</translation>
+    </message>
+    <message>
+        <source>Show security warning messages</source>
+        <translation>Sicherheitswarnungen anzeigen</translation>
+    </message>
+    <message>
+        <source>By emitting an alert sound whenever a virus is detected</source>
+        <translation>Bei jedem gefundenen Virus einen Warnton abspielen</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Logs and backups</source>
+        <translation>Protokolle und Sicherungen</translation>
+    </message>
+    <message>
+        <source>Save the scan logs</source>
+        <translation>Prüfprotokolle speichern</translation>
+    </message>
+    <message>
+        <source>Space to save scan logs </source>
+        <translation>Platz für Prüfprotokolle </translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>Space to save event logs</source>
+        <translation>Platz für Ereignisprotokolle</translation>
+    </message>
+    <message>
+        <source>logs</source>
+        <translation>Protokolle</translation>
+    </message>
+    <message>
+        <source>Space to save backup folders </source>
+        <translation>Platz für Sicherungsordner </translation>
+    </message>
+</context>
+<context>
+    <name>Dialog108</name>
+    <message>
+        <source>Security functions</source>
+        <translation>Sicherheitsfunktionen</translation>
+    </message>
+    <message>
+        <source>Use security functions</source>
+        <translation>Sicherheitsfunktionen verwenden</translation>
+    </message>
+    <message>
+        <source>Ask for the password before:</source>
+        <translation>Das Kennwort verlangen vor:</translation>
+    </message>
+    <message>
+        <source>Terminate the Real Time Monitoring</source>
+        <translation>Beenden der Echtzeitüberwachung</translation>
+    </message>
+    <message>
+        <source>Uninstall program</source>
+        <translation>Deinstallieren des Programms</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+</context>
+<context>
     <name>Dialog109</name>
     <message>
         <source>Use the items not to scan</source>
@@ -241,6 +339,57 @@
     <message>
         <source>Scan System Restore Folders (Windows Me/XP Only)</source>
         <translation>Systemwiederherstellungsordner prüfen (nur Windows Me/XP)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog110</name>
+    <message>
+        <source>Macro viruses</source>
+        <translation>Makroviren</translation>
+    </message>
+    <message>
+        <source>Repair the detected macro viruses </source>
+        <translation>Gefundene Makroviren reparieren </translation>
+    </message>
+    <message>
+        <source>Macros not allowed</source>
+        <translation>Keine Makros zulassen</translation>
+    </message>
+    <message>
+        <source>System areas to scan</source>
+        <translation>Zu prüfende Systembereiche</translation>
+    </message>
+    <message>
+        <source>Memory Scan</source>
+        <translation>Arbeitsspeicher prüfen</translation>
+    </message>
+    <message>
+        <source>Self Scan</source>
+        <translation>Selbstprüfung</translation>
+    </message>
+    <message>
+        <source>Boot Sector Scan</source>
+        <translation>Bootsektor prüfen</translation>
+    </message>
+    <message>
+        <source>Process Scan</source>
+        <translation>Prozesse prüfen</translation>
+    </message>
+    <message>
+        <source>Startup Program Scan</source>
+        <translation>Autostart-Programme prüfen</translation>
+    </message>
+    <message>
+        <source>Self protection</source>
+        <translation>Selbstschutz</translation>
+    </message>
+    <message>
+        <source>Self Protect</source>
+        <translation>Selbstschutz aktivieren</translation>
+    </message>
+    <message>
+        <source>Displaying alert messages to the user</source>
+        <translation>Warnmeldungen für den Benutzer anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1196,6 +1345,14 @@ Möchten Sie die Explorer-Prüfung auswählen?</translation>
     <message>
         <source>&quot;%s&quot; is not excluded from scans.</source>
         <translation>&quot;%s&quot; ist von keiner Prüfung ausgenommen.</translation>
+    </message>
+    <message>
+        <source>The alert sound cannot be played: no sound device is available.</source>
+        <translation>Der Warnton kann nicht abgespielt werden: Es ist kein Audiogerät verfügbar.</translation>
+    </message>
+    <message>
+        <source>This file cannot be played as an alert sound.</source>
+        <translation>Diese Datei kann nicht als Warnton abgespielt werden.</translation>
     </message>
 </context>
 </TS>
