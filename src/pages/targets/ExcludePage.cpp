@@ -50,8 +50,7 @@ void CExcludePage::BindControls() {
     m_bind.Owns({CES_SystemMonitor, CEK_ScanOptions}, kScanExclusions);
     m_bind.Owns({CES_Internet, CEK_ScanOptions}, kScanExclusions);
     m_bind.Owns(kMacroOptions, kSystemRestoreBit);
-    // The extension text is the page's alone, whatever the key held before.
-    m_bind.Owns({CES_Exclude, CEK_ExcludeText}, kWholeWord);
+    m_bind.OwnsText({CES_Exclude, CEK_ExcludeText});
 }
 
 void CExcludePage::PrepareControls() {
