@@ -186,5 +186,6 @@ TEST_F(ExclusionStoreTest, TheLoadedListIsInUseWhileTheSwitchIsOn) {
     for (const ExclusionRow& row : off.Rows())
         EXPECT_EQ(row.use, row.owner == kOtherOwner) << row.text;
     SaveExclusions(ListOf({"/srv/a"}, "dmp"), {true, false});
-    for (const ExclusionRow& row : LoadExclusionList(true).Rows()) EXPECT_TRUE(row.use) << row.text;
+    const ExclusionList on = LoadExclusionList(true);
+    for (const ExclusionRow& row : on.Rows()) EXPECT_TRUE(row.use) << row.text;
 }
