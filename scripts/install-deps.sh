@@ -9,6 +9,7 @@ PACKAGES=(
     libgtest-dev libgmock-dev libbenchmark-dev
     libsodium-dev
     fonts-dejavu-core
+    clang libclang-rt-14-dev
 )
 
 missing=()
