@@ -10,6 +10,7 @@ PACKAGES=(
     libsodium-dev
     libcanberra-dev
     fonts-dejavu-core
+    clang libclang-rt-14-dev
 )
 
 missing=()

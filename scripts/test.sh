@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds everything and runs the whole test suite twice: in the ordinary build
-# and in the AddressSanitizer + UndefinedBehaviorSanitizer build. Prints the
-# time of each phase, and all of them at the end.
+# and in the AddressSanitizer + UndefinedBehaviorSanitizer build; then builds
+# the fuzz targets and gives each a short run. Prints the time of each phase,
+# and all of them at the end.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 cd "$root"
@@ -45,6 +46,15 @@ bash scripts/build.sh build-asan -DQ9_SANITIZE=ON -DQ9_BUILD_BENCHMARKS=OFF
 end_phase "sanitizer build"
 ctest --test-dir build-asan --output-on-failure --parallel "$jobs" --timeout 60
 end_phase "sanitizer tests"
+
+# The readers of outside data under libFuzzer, built with clang in a tree of
+# their own; each target runs a short fixed number of times over its seeds
+# (scripts/fuzz.sh runs them long, see docs/reliability.md).
+echo "== fuzz build =="
+bash scripts/build-fuzz.sh build-fuzz
+end_phase "fuzz build"
+ctest --test-dir build-fuzz --output-on-failure --parallel "$jobs" --timeout 120
+end_phase "fuzz runs"
 
 echo "== times =="
 printf '%s\n' "${phases[@]}"

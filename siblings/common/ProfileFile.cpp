@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <map>
 #include <mutex>
-#include <set>
 #include <utility>
 
 #include "platform/AtomicFile.h"
@@ -46,16 +46,19 @@ bool IsValidKey(std::string_view key) {
            key.front() != '[';
 }
 
-// Reports a problem with a file once per process for the same path, text and
-// detail, since the libraries read their files at every call.
+// Reports a problem with a file once per state of the file (its content and
+// the problem), since the libraries read their files at every call. Only the
+// last reported state of each path is kept: remembering every state would
+// grow without end in a process whose files keep changing.
 void ReportOnce(const std::string& path, const std::string& content, const std::string& text) {
     static std::mutex mutex;
-    static std::set<std::string> reported;
-    const std::string fingerprint =
-        path + '\n' + text + '\n' + std::to_string(std::hash<std::string>{}(content));
+    static std::map<std::string, std::string> lastReported;  // path -> state
+    std::string state = text + '\n' + std::to_string(std::hash<std::string>{}(content));
     {
         const std::lock_guard<std::mutex> guard(mutex);
-        if (!reported.insert(fingerprint).second) return;
+        std::string& last = lastReported[path];
+        if (last == state) return;
+        last = std::move(state);
     }
     platform::ReportProblem(text);
 }

@@ -49,7 +49,7 @@ bool PassesPrivilegeGate(uint32_t flags) {
     if (g_Siblings.HasEnoughPrivilege() != 0) return true;
     const int error = errno;
     if (!(flags & DMF_Silent)) {
-        ShowMessage(nullptr, FormatResource(LoadString(strings::kNotAuthorized), error),
+        ShowMessage(nullptr, FormatResource(LoadString(strings::kNotAuthorized).c_str(), error),
                     LoadString(strings::kWarningCaption), msg::kOk | msg::kIconWarning);
     }
     return false;

@@ -28,19 +28,20 @@ std::string OwnerSentence(const ExclusionMatch& match) {
     if (match.row.owner.empty() || match.row.owner == kZoneOwnerTag) {
         return LoadString(kThisProducts);
     }
-    return FormatResource(LoadString(kAnotherProducts), match.row.owner.c_str());
+    return FormatResource(LoadString(kAnotherProducts).c_str(), match.row.owner.c_str());
 }
 
 }  // namespace
 
 std::string ExclusionTestMessage(const std::string& path,
                                  const std::optional<ExclusionMatch>& match) {
-    if (!match) return FormatResource(LoadString(kNotExcluded), path.c_str());
-    std::string text =
-        FormatResource(LoadString(SentenceOf(match->kind)), path.c_str(), match->row.text.c_str());
+    if (!match) return FormatResource(LoadString(kNotExcluded).c_str(), path.c_str());
+    std::string text = FormatResource(LoadString(SentenceOf(match->kind)).c_str(), path.c_str(),
+                                      match->row.text.c_str());
     text += "\n\n" + OwnerSentence(*match);
     if (!match->matchedPath.empty()) {
-        text += "\n" + FormatResource(LoadString(kThroughNetworkPath), match->matchedPath.c_str());
+        text += "\n" +
+                FormatResource(LoadString(kThroughNetworkPath).c_str(), match->matchedPath.c_str());
     }
     return text;
 }

@@ -37,12 +37,17 @@ std::string FormatBoundedV(std::size_t capacity, const char* format, va_list arg
     return std::string(buffer.data());
 }
 
-std::string FormatResource(const std::string& format, ...) {
+// The compiler cannot check a format that is not a literal; resource
+// formats are trusted as the header says.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+std::string FormatResource(const char* format, ...) {
     va_list arguments;
     va_start(arguments, format);
-    std::string text = FormatUnboundedV(format.c_str(), arguments);
+    std::string text = FormatUnboundedV(format, arguments);
     va_end(arguments);
     return text;
 }
+#pragma GCC diagnostic pop
 
 std::string TextOrEmpty(const char* text) { return text ? std::string(text) : std::string(); }

@@ -19,5 +19,6 @@ std::string FormatBoundedV(std::size_t capacity, const char* format, va_list arg
 
 // Formats with a format taken from the string table. Those formats are texts
 // of our own resources, so they are trusted like literals; the caller passes
-// the arguments the string's placeholders name.
-std::string FormatResource(const std::string& format, ...);
+// the arguments the string's placeholders name. The format is a plain
+// pointer: the last named parameter before "..." must not be a reference.
+std::string FormatResource(const char* format, ...);

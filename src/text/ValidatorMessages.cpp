@@ -6,12 +6,12 @@
 #include "text/TextFormat.h"
 
 std::string RangeMessageText(int32_t low, int32_t high) {
-    return FormatResource(LoadString(strings::kRangeMessage), FormatGroupedNumber(low).c_str(),
-                          FormatGroupedNumber(high).c_str());
+    return FormatResource(LoadString(strings::kRangeMessage).c_str(),
+                          FormatGroupedNumber(low).c_str(), FormatGroupedNumber(high).c_str());
 }
 
 std::string LengthMessageText(int32_t limit) {
-    return FormatResource(LoadString(strings::kLengthMessage), limit);
+    return FormatResource(LoadString(strings::kLengthMessage).c_str(), limit);
 }
 
 int32_t ShowRangeMessage(QWidget* owner, int32_t low, int32_t high) {

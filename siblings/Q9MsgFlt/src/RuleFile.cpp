@@ -48,9 +48,13 @@ std::optional<SpamRule> RuleOf(const std::map<int, QString>& values, QString* re
         *reason = QStringLiteral("a rule needs Name, Field, Words, Action and Enabled");
         return std::nullopt;
     }
+    // Control characters of a name or word are read as the spaces Format
+    // writes for them, so that a rule holds what the file holds after a save
+    // (a name or word of controls alone would be saved blank, which no file
+    // may hold).
     SpamRule rule;
-    rule.name = values.at(0);
-    rule.words = SpamRule::WordsOf(values.at(2));
+    rule.name = WithoutControls(values.at(0)).trimmed();
+    rule.words = SpamRule::WordsOf(WithoutControls(values.at(2)));
     const int field = IndexOf(kFieldWords, values.at(1));
     const int action = IndexOf(kActionWords, values.at(3));
     const bool on = values.at(4).compare(QLatin1String("Yes"), Qt::CaseInsensitive) == 0;
@@ -64,7 +68,6 @@ std::optional<SpamRule> RuleOf(const std::map<int, QString>& values, QString* re
     rule.enabled = on;
     return rule;
 }
-
 
 }  // namespace
 

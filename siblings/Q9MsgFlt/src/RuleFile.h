@@ -17,7 +17,7 @@
 // around each word are dropped); Action is Spam, Delete or Pass; Enabled is
 // Yes or No. Keys and keywords are read without regard to case; blank lines
 // and lines starting with '#' are ignored. Text is UTF-8; control
-// characters in a name or a word are written as spaces.
+// characters in a name or a word are read and written as spaces.
 
 #include <QString>
 #include <optional>

@@ -98,7 +98,7 @@ void COtherConfigPage::BindControls() {
 void COtherConfigPage::PrepareControls() {
     const std::string format = m_ui.productEventBox->text().toStdString();
     m_ui.productEventBox->setText(
-        QString::fromStdString(FormatResource(format, ProductName().c_str())));
+        QString::fromStdString(FormatResource(format.c_str(), ProductName().c_str())));
     if (Context().Siblings().GetLanguageId() == kUsEnglish) m_ui.homeAlarmBox->setEnabled(false);
 }
 

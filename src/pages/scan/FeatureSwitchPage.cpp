@@ -101,7 +101,7 @@ void CFeatureSwitchPage::ConfirmMonitorOff() {
         0) {
         const auto minutes =
             static_cast<int>(StoreValues().Word({CES_SystemMonitor, CEK_MonitorRestart}));
-        text = FormatResource(LoadString(strings::kCloseMonitorRestartQuestion), minutes);
+        text = FormatResource(LoadString(strings::kCloseMonitorRestartQuestion).c_str(), minutes);
     } else {
         text = LoadString(strings::kCloseMonitorQuestion);
     }

@@ -50,7 +50,7 @@ bool CAddFolderDlg::ReconnectDriveOf(const std::string& path) {
     if (g_Siblings.AddConnection(resource, nullptr, nullptr, kConnectRedirect) == kNetNoError) {
         return true;
     }
-    ShowMessage(this, FormatResource(LoadString(kDriveNotConnected), localName),
+    ShowMessage(this, FormatResource(LoadString(kDriveNotConnected).c_str(), localName),
                 LoadString(strings::kConfigurationError), msg::kOk);
     return false;
 }

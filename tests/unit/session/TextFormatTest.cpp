@@ -27,5 +27,5 @@ TEST(TextFormat, BoundedFormattingCutsAtCapacityLessOne) {
 
 TEST(TextFormat, ResourceFormatsTakeRuntimeFormats) {
     const std::string format = "between %s ~ %s.";
-    EXPECT_EQ(FormatResource(format, "1", "9"), "between 1 ~ 9.");
+    EXPECT_EQ(FormatResource(format.c_str(), "1", "9"), "between 1 ~ 9.");
 }

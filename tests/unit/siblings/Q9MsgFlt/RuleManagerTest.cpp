@@ -66,6 +66,8 @@ TEST_F(RuleManagerTest, UnparseableFileFailsInitIsReportedAndKept) {
         "Q9MsgFlt Rules 1\n[Rule]\nName=A\nField=Subject\nWords=x\nAction=Spam\nEnabled=1\n",
         "Q9MsgFlt Rules 1\n[Rule]\nName=\nField=Subject\nWords=x\nAction=Spam\nEnabled=Yes\n",
         "Q9MsgFlt Rules 1\n[Rule]\nName=A\nField=Subject\nWords= , \nAction=Spam\nEnabled=Yes\n",
+        "Q9MsgFlt Rules 1\n[Rule]\nName=A\nField=Subject\nWords=\x05\nAction=Spam\nEnabled=Yes\n",
+        "Q9MsgFlt Rules 1\n[Rule]\nName=\x01\nField=Subject\nWords=x\nAction=Spam\nEnabled=Yes\n",
         "Q9MsgFlt Rules "
         "1\n[Rule]\nName=A\nName=B\nField=Subject\nWords=x\nAction=Spam\nEnabled=Yes\n",
         "Q9MsgFlt Rules "
@@ -93,6 +95,26 @@ TEST_F(RuleManagerTest, HandEditedFileIsReadAndWrittenBackPlainly) {
     EXPECT_EQ(RulesText(),
               "Q9MsgFlt Rules 1\n\n[Rule]\nName=Pharmacy\nField=Body\nWords=cheap, pills\n"
               "Action=Delete\nEnabled=Yes\n");
+}
+
+// Control characters in a name or a word are written as spaces; read as
+// spaces too, a rule holds what the file will hold after a save, and a word
+// of control characters alone is dropped instead of being written as a blank.
+TEST_F(RuleManagerTest, ControlCharactersInNamesAndWordsAreReadAsSpaces) {
+    const char text[] =
+        "Q9MsgFlt Rules 1\n[Rule]\nName=\x01Pills\x7f\nField=Body\n"
+        "Words=cheap\x01"
+        "deal, \x05, spam\0offer\nAction=Spam\nEnabled=Yes\n";
+    WriteRules(std::string(text, sizeof text - 1));
+    ASSERT_EQ(Q9MsgFltAPI_InitManager(), 1);
+    ASSERT_EQ(Q9MsgFltAPI_WriteRules(), 1);
+    const std::string written =
+        "Q9MsgFlt Rules 1\n\n[Rule]\nName=Pills\nField=Body\nWords=cheap deal, spam offer\n"
+        "Action=Spam\nEnabled=Yes\n";
+    EXPECT_EQ(RulesText(), written);
+    ASSERT_EQ(Q9MsgFltAPI_ReloadManager(), 1);
+    ASSERT_EQ(Q9MsgFltAPI_WriteRules(), 1);
+    EXPECT_EQ(RulesText(), written);
 }
 
 TEST_F(RuleManagerTest, WriteRulesWritesTheManagersRules) {

@@ -215,6 +215,25 @@ TEST_F(ProfileFileTest, LineWithoutEqualsMakesTheFileUnparseableReportedOnceAndN
     EXPECT_EQ(Read(path), text);
 }
 
+// Only the last reported state of each file is remembered, so that a
+// process whose files keep changing does not collect a report for every
+// state they ever had: a file that goes back to an earlier broken content is
+// reported again.
+TEST_F(ProfileFileTest, FileBackToAnEarlierBrokenContentIsReportedAgain) {
+    const std::string first = "no equals sign\n";
+    const std::string second = "[unterminated\n";
+    const std::string path = Write("bad.ini", first);
+    ProfileFile::Load(path);
+    Write("bad.ini", second);
+    ProfileFile::Load(path);
+    ProfileFile::Load(path);
+    Write("bad.ini", first);
+    ProfileFile::Load(path);
+    ASSERT_EQ(problems.Lines().size(), 3u);
+    EXPECT_NE(problems.Lines()[0].find(path + ":1"), std::string::npos);
+    EXPECT_EQ(problems.Lines()[2], problems.Lines()[0]);
+}
+
 TEST_F(ProfileFileTest, UnterminatedOrEmptySectionHeaderMakesTheFileUnparseable) {
     for (const std::string text : {"[Section\nk=1\n", "k=1\n[]\n", "[S] trailing\n", "= value\n"}) {
         const std::string path = Write("bad.ini", text);
