@@ -11,32 +11,24 @@
 #include <string>
 #include <vector>
 
-#include "CallerInstallation.h"
+#include "CallerSessionTest.h"
 #include "DialogDriver.h"
 #include "Q9CfgE.h"
 #include "q9cfgul.h"
 
 namespace {
 
-using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
-
 constexpr uint32_t kSwitchSection = 14;
 constexpr uint32_t kScanSwitchKey = 42;
 constexpr int kSystemMonitorBox = 1005;
 constexpr uint32_t kSystemMonitorBit = 0x1;
 
-class ConfigDialogTest : public testing::Test {
+class ConfigDialogTest : public CallerSessionTest {
 protected:
     void SetUp() override {
-        Q9CfgE_SetStyleEx(257, "", 0);
-        caller = std::make_unique<CallerInstallation>(std::initializer_list<const char*>{"Q9SSCtrl"});
-        caller->install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
-        ASSERT_NE(caller->Load(), nullptr) << dlerror();
-        doModal = caller->Entry<DoModalFn>("Q9CfgUL_DoModal");
-        ASSERT_NE(doModal, nullptr);
+        StartCaller({"Q9SSCtrl"});
         ASSERT_EQ(Q9CfgE_SetDWEx(kSwitchSection, kScanSwitchKey, 0), 1);
     }
-    void TearDown() override { Q9CfgE_SetStyleEx(257, "", 0); }
 
     std::vector<std::string> Journal() const {
         std::vector<std::string> lines;
@@ -48,7 +40,8 @@ protected:
     std::vector<std::string> Changes() const {
         std::vector<std::string> changes;
         for (const std::string& line : Journal()) {
-            if (line.rfind("Q9SSCtrl_Register", 0) == 0 || line.rfind("Q9SSCtrl_Unregister", 0) == 0 ||
+            if (line.rfind("Q9SSCtrl_Register", 0) == 0 ||
+                line.rfind("Q9SSCtrl_Unregister", 0) == 0 ||
                 line.rfind("Q9SSCtrl_SetCfgChanged", 0) == 0) {
                 changes.push_back(line);
             }
@@ -66,20 +59,19 @@ protected:
             box->click();
             DialogDriver::Find<QPushButton>(dialog, button)->click();
         });
-        const int32_t result = doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, page, nullptr, nullptr);
+        const int32_t result =
+            doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, page, nullptr, nullptr);
         EXPECT_TRUE(driver.Done());
         return result;
     }
-
-    std::unique_ptr<CallerInstallation> caller;
-    DoModalFn* doModal = nullptr;
 };
 
 TEST_F(ConfigDialogTest, OkRegistersTheFunctionThenSignalsOnce) {
     int32_t page = 0;
     EXPECT_EQ(TurnOnSystemMonitorAndPress(1, &page), 1);
     EXPECT_EQ(page, 0);
-    EXPECT_EQ(Q9CfgE_GetDWEx(kSwitchSection, kScanSwitchKey) & kSystemMonitorBit, kSystemMonitorBit);
+    EXPECT_EQ(Q9CfgE_GetDWEx(kSwitchSection, kScanSwitchKey) & kSystemMonitorBit,
+              kSystemMonitorBit);
     // The screen saver scan is brought into line at every apply, touched or
     // not; the signal comes once, last.
     const std::vector<std::string> changes = Changes();
@@ -99,7 +91,8 @@ TEST_F(ConfigDialogTest, CancelWritesNothingAndCallsNothing) {
 }
 
 TEST_F(ConfigDialogTest, AStartPageOutsideTheTreeComesBackAsMinusOne) {
-    DialogDriver driver([](QDialog* dialog) { DialogDriver::Find<QPushButton>(dialog, 1)->click(); });
+    DialogDriver driver(
+        [](QDialog* dialog) { DialogDriver::Find<QPushButton>(dialog, 1)->click(); });
     int32_t page = 6;
     EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, &page, nullptr, nullptr), 1);
     EXPECT_EQ(page, -1);

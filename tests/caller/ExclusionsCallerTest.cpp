@@ -8,19 +8,17 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
 
-#include "CallerInstallation.h"
+#include "CallerSessionTest.h"
 #include "DialogDriver.h"
 #include "Q9CfgE.h"
 #include "q9cfgul.h"
+#include "support/ScopedVariable.h"
 
 namespace {
-
-using ExclusionsDoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
 
 constexpr int32_t kExclusionsPage = 16;
 constexpr uint32_t kExcludeSection = 1;
@@ -30,25 +28,14 @@ constexpr uint32_t kSystemMonitorSection = 7;
 constexpr uint32_t kInternetSection = 9;
 constexpr uint32_t kExclusionsBit = 0x8000000;
 
-class ExclusionsCallerTest : public testing::Test {
+class ExclusionsCallerTest : public CallerSessionTest {
 protected:
     void SetUp() override {
-        Q9CfgE_SetStyleEx(257, "", 0);
-        caller = std::make_unique<CallerInstallation>(
-            std::initializer_list<const char*>{"Q9SSCtrl", "OrvDMZ"});
-        caller->install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
+        StartCaller({"Q9SSCtrl", "OrvDMZ"});
         // The Home node of the folder tree is this folder.
         m_home = caller->install.PathOf("home");
         std::filesystem::create_directory(m_home);
-        if (const char* home = std::getenv("HOME")) m_savedHome = home;
-        setenv("HOME", m_home.c_str(), 1);
-        ASSERT_NE(caller->Load(), nullptr) << dlerror();
-        doModal = caller->Entry<ExclusionsDoModalFn>("Q9CfgUL_DoModal");
-        ASSERT_NE(doModal, nullptr);
-    }
-    void TearDown() override {
-        setenv("HOME", m_savedHome.c_str(), 1);
-        Q9CfgE_SetStyleEx(257, "", 0);
+        m_homeVariable = std::make_unique<ScopedVariable>("HOME", m_home.c_str());
     }
 
     // The next dialog: selects the Home node of the folder tree and presses OK.
@@ -89,10 +76,8 @@ protected:
         return result;
     }
 
-    std::unique_ptr<CallerInstallation> caller;
-    ExclusionsDoModalFn* doModal = nullptr;
     std::string m_home;
-    std::string m_savedHome;
+    std::unique_ptr<ScopedVariable> m_homeVariable;
 };
 
 }  // namespace

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "CallerInstallation.h"
+#include "CallerSessionTest.h"
 #include "DialogDriver.h"
 #include "PromptAnswerer.h"
 #include "Q9CfgE.h"
@@ -21,8 +21,6 @@
 namespace general_pages_test {
 namespace {
 
-using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
-
 constexpr int32_t kSecurityPage = 17;
 constexpr int32_t kOtherConfigPage = 15;
 constexpr uint32_t kAuthorization = 3;
@@ -30,18 +28,9 @@ constexpr uint32_t kAuthEnabled = 7;
 constexpr uint32_t kAuthPassword = 9;
 constexpr const char* kPassword = "Blue-Heron 42";
 
-class GeneralPagesTest : public testing::Test {
+class GeneralPagesTest : public CallerSessionTest {
 protected:
-    void SetUp() override {
-        Q9CfgE_SetStyleEx(257, "", 0);
-        caller =
-            std::make_unique<CallerInstallation>(std::initializer_list<const char*>{"Q9SSCtrl"});
-        caller->install.Write("Q9SSCtrl.ini", "[Privilege]\nEnough=1\n");
-        ASSERT_NE(caller->Load(), nullptr) << dlerror();
-        doModal = caller->Entry<DoModalFn>("Q9CfgUL_DoModal");
-        ASSERT_NE(doModal, nullptr);
-    }
-    void TearDown() override { Q9CfgE_SetStyleEx(257, "", 0); }
+    void SetUp() override { StartCaller({"Q9SSCtrl"}); }
 
     // The journal lines of calls that change something.
     std::vector<std::string> Changes() const {
@@ -63,9 +52,6 @@ protected:
         Q9CfgE_GetEncStrEx(kAuthorization, kAuthPassword, text.data(), &length);
         return text.c_str();
     }
-
-    std::unique_ptr<CallerInstallation> caller;
-    DoModalFn* doModal = nullptr;
 };
 
 TEST_F(GeneralPagesTest, APasswordSetOnTheSecurityPageIsKeptEncipheredAndAskedNextTime) {

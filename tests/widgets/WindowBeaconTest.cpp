@@ -22,6 +22,7 @@
 #include "support/ChildProcess.h"
 #include "support/HelperWindow.h"
 #include "support/ProblemCapture.h"
+#include "support/ScopedVariable.h"
 #include "support/TestPaths.h"
 
 namespace {
@@ -46,28 +47,6 @@ bool AnswersWithoutWaiting(const std::function<void()>& action) {
     action();
     return probe.isActive();
 }
-
-// Sets an environment variable for the life of the object.
-class ScopedEnvironment {
-public:
-    ScopedEnvironment(const char* name, const char* value) : m_name(name) {
-        if (const char* old = std::getenv(name)) m_old = old;
-        setenv(name, value, 1);
-    }
-    ~ScopedEnvironment() {
-        if (m_old)
-            setenv(m_name.c_str(), m_old->c_str(), 1);
-        else
-            unsetenv(m_name.c_str());
-    }
-
-    ScopedEnvironment(const ScopedEnvironment&) = delete;
-    ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
-
-private:
-    std::string m_name;
-    std::optional<std::string> m_old;
-};
 
 }  // namespace
 
@@ -248,7 +227,7 @@ TEST(WindowBeacon, BeaconThatCannotListenHasTokenZeroReportedOnce) {
     QTemporaryDir root;
     const QString directory = root.filePath(QString(120, QLatin1Char('d')));
     ASSERT_TRUE(QDir().mkpath(directory));
-    ScopedEnvironment temporary("TMPDIR", directory.toLocal8Bit().constData());
+    ScopedVariable temporary("TMPDIR", directory.toLocal8Bit().constData());
     ProblemCapture problems;
     QWidget window;
     WindowBeacon beacon(&window);
@@ -275,7 +254,7 @@ TEST(WindowBeacon, ASocketOfAnotherUserIsNotAsked) {
 TEST(WindowBeacon, AFolderOfAnotherUserIsNotUsed) {
     if (::geteuid() != 0) GTEST_SKIP() << "handing a folder to another user needs root";
     QTemporaryDir temporary;
-    ScopedEnvironment variable("TMPDIR", temporary.path().toLocal8Bit().constData());
+    ScopedVariable variable("TMPDIR", temporary.path().toLocal8Bit().constData());
     const QByteArray folder = QFile::encodeName(WindowBeacon::SocketDirectory());
     ASSERT_EQ(::mkdir(folder.constData(), 0700), 0);
     ASSERT_EQ(::chown(folder.constData(), 65534, 65534), 0);

@@ -19,6 +19,7 @@
 #include "session/ProcessState.h"
 #include "session/SiblingLibs.h"
 #include "support/ProblemCapture.h"
+#include "support/ScopedVariable.h"
 #include "support/SiblingTest.h"
 #include "targets/ExclusionStore.h"
 
@@ -33,13 +34,9 @@ protected:
         AddSibling("OrvDMZ");
         Install().Write("mounts",
                         "/dev/sda1 / ext4 rw 0 0\n//server/share /mnt/share cifs rw 0 0\n");
-        setenv(platform::kMountTableVariable, Install().PathOf("mounts").c_str(), 1);
         m_savedWinNT = g_bWinNT;
     }
-    ~ExclusionStoreTest() override {
-        unsetenv(platform::kMountTableVariable);
-        g_bWinNT = m_savedWinNT;
-    }
+    ~ExclusionStoreTest() override { g_bWinNT = m_savedWinNT; }
 
     static void PutInZone(const char* owner, const std::vector<ZoneRecord>& records) {
         ExclusionZone zone = g_Siblings.CreateExclusionZone();
@@ -63,6 +60,7 @@ protected:
         return list;
     }
 
+    ScopedVariable m_mountTable{platform::kMountTableVariable, Install().PathOf("mounts").c_str()};
     int32_t m_savedWinNT = 0;
 };
 

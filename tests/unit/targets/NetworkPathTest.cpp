@@ -10,6 +10,7 @@
 #include "platform/MountTable.h"
 #include "platform/Registry.h"
 #include "session/RegistryHelpers.h"
+#include "support/ScopedVariable.h"
 #include "support/SiblingTest.h"
 #include "targets/NetworkPath.h"
 
@@ -23,16 +24,14 @@ constexpr const char* kNetworkMounts =
 
 class NetworkPathTest : public SiblingTest {
 protected:
-    NetworkPathTest() {
-        Install().Write("mounts", kNetworkMounts);
-        setenv(platform::kMountTableVariable, Install().PathOf("mounts").c_str(), 1);
-    }
-    ~NetworkPathTest() override { unsetenv(platform::kMountTableVariable); }
+    NetworkPathTest() { Install().Write("mounts", kNetworkMounts); }
 
     static void Remember(const std::string& key, const char* remotePath) {
         ASSERT_EQ(RegWriteString(platform::CurrentUser(), key.c_str(), "RemotePath", remotePath),
                   0);
     }
+
+    ScopedVariable m_mountTable{platform::kMountTableVariable, Install().PathOf("mounts").c_str()};
 };
 
 }  // namespace
@@ -77,6 +76,6 @@ TEST_F(NetworkPathTest, TheSessionsRememberedConnectionWinsOverTheMountedOne) {
 }
 
 TEST_F(NetworkPathTest, WithoutTheVariableTheProcessMountsAreRead) {
-    unsetenv(platform::kMountTableVariable);
+    const ScopedVariable systemMounts(platform::kMountTableVariable, nullptr);
     EXPECT_FALSE(IsNetworkPath("/mnt/share/a"));
 }
