@@ -20,6 +20,12 @@ std::string DefaultValues::Text(StoreAddress address) const {
     return ReadDefaultText(address.section, address.key);
 }
 
+void ValueHome::Write(StoreAddress address, uint32_t word) { WriteWord(address, word); }
+
+void ValueHome::WriteText(StoreAddress address, const std::string& text) {
+    ::WriteText(address, text);
+}
+
 void WriteWord(StoreAddress address, uint32_t word) {
     Q9CfgE_SetDWEx(address.section, address.key, word);
 }

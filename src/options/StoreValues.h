@@ -27,6 +27,15 @@ public:
     virtual std::string Text(StoreAddress address) const;
 };
 
+// Where a page keeps its values: it reads them as a source and takes their
+// writes. By default the store (its working copy during a session); the tabs
+// of the advanced scan dialog keep theirs in the dialog until its OK.
+class ValueHome : public StoreValues {
+public:
+    virtual void Write(StoreAddress address, uint32_t word);
+    virtual void WriteText(StoreAddress address, const std::string& text);
+};
+
 // The store's factory defaults.
 class DefaultValues : public StoreValues {
 public:

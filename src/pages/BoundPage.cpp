@@ -31,7 +31,7 @@ void CBoundPage::LoadFrom(const StoreValues& values) {
     m_modified = 0;
 }
 
-void CBoundPage::Load() { LoadFrom(StoreValues()); }
+void CBoundPage::Load() { LoadFrom(m_bind.Home()); }
 
 int32_t CBoundPage::OnDefault() {
     ShowValues(DefaultValues());

@@ -70,6 +70,79 @@ private:
     BitShow m_show;
 };
 
+class CheckBinding : public Binding {
+public:
+    CheckBinding(QAbstractButton* box, StoreAddress word, WordCodec codec)
+        : m_box(box), m_word(word), m_codec(std::move(codec)) {}
+
+    void Show(const StoreValues& values) override {
+        m_box->setChecked(m_codec.decode(values.Word(m_word)) != 0);
+    }
+    std::optional<StoreAddress> Word() const override { return m_word; }
+    uint32_t Mask() const override { return m_codec.mask; }
+    uint32_t Collect(uint32_t word) const override {
+        return m_codec.encode(word, m_box->isChecked() ? 1 : 0);
+    }
+    void Connect(const std::function<void()>& changed) override {
+        QObject::connect(m_box, &QAbstractButton::clicked, m_box, [changed] { changed(); });
+    }
+
+private:
+    QPointer<QAbstractButton> m_box;
+    StoreAddress m_word;
+    WordCodec m_codec;
+};
+
+class HeldBinding : public Binding {
+public:
+    HeldBinding(StoreAddress word, uint32_t bits, uint32_t* held)
+        : m_word(word), m_bits(bits), m_held(held) {}
+
+    void Show(const StoreValues& values) override {
+        *m_held = ReplaceBits(*m_held, values.Word(m_word), m_bits);
+    }
+    std::optional<StoreAddress> Word() const override { return m_word; }
+    uint32_t Mask() const override { return m_bits; }
+    uint32_t Collect(uint32_t word) const override { return ReplaceBits(word, *m_held, m_bits); }
+    void Connect(const std::function<void()>& /*changed*/) override {}
+
+private:
+    StoreAddress m_word;
+    uint32_t m_bits;
+    uint32_t* m_held;
+};
+
+class HeldTextBinding : public Binding {
+public:
+    HeldTextBinding(StoreAddress text, std::string* held) : m_text(text), m_held(held) {}
+
+    void Show(const StoreValues& values) override { *m_held = values.Text(m_text); }
+    std::optional<StoreAddress> TextAddress() const override { return m_text; }
+    std::string CollectText() const override { return *m_held; }
+    void Connect(const std::function<void()>& /*changed*/) override {}
+
+private:
+    StoreAddress m_text;
+    std::string* m_held;
+};
+
+// The values of a source, except that one word reads as given.
+class OneWordValues : public StoreValues {
+public:
+    OneWordValues(const StoreValues& others, StoreAddress address, uint32_t word)
+        : m_others(others), m_address(address), m_word(word) {}
+
+    uint32_t Word(StoreAddress address) const override {
+        return address == m_address ? m_word : m_others.Word(address);
+    }
+    std::string Text(StoreAddress address) const override { return m_others.Text(address); }
+
+private:
+    const StoreValues& m_others;
+    StoreAddress m_address;
+    uint32_t m_word;
+};
+
 class RadioBinding : public Binding {
 public:
     RadioBinding(std::vector<QAbstractButton*> radios, StoreAddress word, WordCodec codec)
@@ -210,6 +283,18 @@ void CPageBinder::Bit(QAbstractButton* box, StoreAddress word, uint32_t bits, Bi
     Add(std::make_unique<BitBinding>(box, word, bits, sense, show));
 }
 
+void CPageBinder::Check(QAbstractButton* box, StoreAddress word, WordCodec codec) {
+    Add(std::make_unique<CheckBinding>(box, word, std::move(codec)));
+}
+
+void CPageBinder::Hold(StoreAddress word, uint32_t bits, uint32_t* held) {
+    Add(std::make_unique<HeldBinding>(word, bits, held));
+}
+
+void CPageBinder::HoldText(StoreAddress text, std::string* held) {
+    Add(std::make_unique<HeldTextBinding>(text, held));
+}
+
 void CPageBinder::Radios(std::vector<QAbstractButton*> radios, StoreAddress word, WordCodec codec) {
     Add(std::make_unique<RadioBinding>(std::move(radios), word, std::move(codec)));
 }
@@ -260,15 +345,31 @@ void CPageBinder::Save() const {
         auto [it, isNew] = words.try_emplace(*address, 0);
         if (isNew) {
             order.push_back(*address);
-            if (!IsRebuilt(*address)) it->second = StoreValues().Word(*address);
+            if (!IsRebuilt(*address)) it->second = m_home->Word(*address);
         }
         it->second = ReplaceBits(it->second, binding->Collect(it->second), binding->Mask());
     }
-    for (const StoreAddress& address : order) WriteWord(address, words[address]);
+    for (const StoreAddress& address : order) m_home->Write(address, words[address]);
     for (const auto& binding : m_bindings) {
         if (const std::optional<StoreAddress> text = binding->TextAddress())
-            WriteText(*text, binding->CollectText());
+            m_home->WriteText(*text, binding->CollectText());
     }
+}
+
+uint32_t CPageBinder::CollectWord(StoreAddress address, uint32_t word) const {
+    for (const auto& binding : m_bindings) {
+        if (binding->Word() == address)
+            word = ReplaceBits(word, binding->Collect(word), binding->Mask());
+    }
+    return word;
+}
+
+void CPageBinder::ShowWord(StoreAddress address, uint32_t word) const {
+    const OneWordValues values(*m_home, address, word);
+    for (const auto& binding : m_bindings) {
+        if (binding->Word() == address) binding->Show(values);
+    }
+    ApplyEnableRules();
 }
 
 int32_t CPageBinder::Validate(QWidget* owner) const {

@@ -26,6 +26,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "options/StoreValues.h"
@@ -62,9 +63,16 @@ public:
     CPageBinder(const CPageBinder&) = delete;
     CPageBinder& operator=(const CPageBinder&) = delete;
 
+    // Where Save reads and writes the bound values: the store unless set.
+    // The binder does not own home.
+    void SetHome(ValueHome* home) { m_home = home; }
+    ValueHome& Home() const { return *m_home; }
+
     // A check box for the bits of a word (all of them set, or all clear).
     void Bit(QAbstractButton* box, StoreAddress word, uint32_t bits,
              BitSense sense = BitSense::kCheckedWhenSet, BitShow show = BitShow::kAlways);
+    // A check box whose state a codec gives: index 1 checked, 0 clear.
+    void Check(QAbstractButton* box, StoreAddress word, WordCodec codec);
     // A radio group: radio i stands for index i of the codec.
     void Radios(std::vector<QAbstractButton*> radios, StoreAddress word, WordCodec codec);
     // A combo: item i stands for index i of the codec.
@@ -74,6 +82,12 @@ public:
                 FieldCheck check = FieldCheck::kWhenEnabled);
     // A text field for a store text of at most maxLength characters.
     void Text(QLineEdit* edit, StoreAddress text, int32_t maxLength);
+    // Bits of a word that no control shows but the page keeps in *held
+    // between Show and Save (a dialog of the page edits them there). Bound
+    // before the controls of the same word, so that their codecs see them.
+    void Hold(StoreAddress word, uint32_t bits, uint32_t* held);
+    // A text kept the same way.
+    void HoldText(StoreAddress text, std::string* held);
     // Bits that the page writes itself (a hook, not a control); declared so
     // that the page's share of the store is known in one place.
     void Owns(StoreAddress word, uint32_t bits);
@@ -89,6 +103,11 @@ public:
 
     void Show(const StoreValues& values) const;
     void Save() const;
+    // word with every binding of address applied, as Save would write it
+    // over word.
+    uint32_t CollectWord(StoreAddress address, uint32_t word) const;
+    // Shows word in the bindings of address alone.
+    void ShowWord(StoreAddress address, uint32_t word) const;
     // 0 when every field passes; otherwise the first failure has been told
     // to the user (owner is the message's parent) and 1 is returned.
     int32_t Validate(QWidget* owner) const;
@@ -120,4 +139,6 @@ private:
     std::vector<StoreAddress> m_declaredTexts;
     std::vector<StoreAddress> m_rebuilt;
     std::function<void()> m_changed;
+    ValueHome m_store;
+    ValueHome* m_home = &m_store;
 };

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -317,6 +318,150 @@ TEST_F(BoundPageTest, ThePageKnowsWhichBitsItOwns) {
     EXPECT_EQ(owned.at(kSize), 0xFFFFFFFFU);
     ASSERT_EQ(page->Binder().OwnedTexts().size(), 1U);
     EXPECT_EQ(page->Binder().OwnedTexts()[0], kSound);
+}
+
+// --- Held values, codec check boxes and a home of the page's own ---------
+
+constexpr uint32_t kAnyBits = 0x10101;   // the box reads on if any is set
+constexpr uint32_t kHeldBits = 0x0F000;  // kept by the page, no control
+constexpr uint32_t kFollowerBit = 0x40;  // a box whose save depends on them
+constexpr StoreAddress kHeldText = {kSection, 3};
+
+// A home in memory: the values of a dialog, not of the store.
+class MemoryHome : public ValueHome {
+public:
+    uint32_t Word(StoreAddress address) const override {
+        const auto it = words.find(address);
+        return it == words.end() ? 0 : it->second;
+    }
+    std::string Text(StoreAddress address) const override {
+        const auto it = texts.find(address);
+        return it == texts.end() ? std::string() : it->second;
+    }
+    void Write(StoreAddress address, uint32_t word) override { words[address] = word; }
+    void WriteText(StoreAddress address, const std::string& text) override {
+        texts[address] = text;
+    }
+
+    std::map<StoreAddress, uint32_t> words;
+    std::map<StoreAddress, std::string> texts;
+};
+
+// On: all of kAnyBits; off: none. Reads on when any is set.
+WordCodec AnyCodec() {
+    return {[](uint32_t word) { return (word & kAnyBits) != 0 ? 1 : 0; },
+            [](uint32_t word, int index) { return SetBits(word, kAnyBits, index == 1); },
+            kAnyBits};
+}
+
+// Saved set when the box is on or when no held bit is left: the kind of
+// rule the file types follow.
+WordCodec FollowerCodec() {
+    return {[](uint32_t word) { return (word & kFollowerBit) != 0 ? 1 : 0; },
+            [](uint32_t word, int index) {
+                return SetBits(word, kFollowerBit, index == 1 || (word & kHeldBits) == 0);
+            },
+            kFollowerBit};
+}
+
+class HeldPage : public CBoundPage {
+public:
+    explicit HeldPage(ValueHome* home) : CBoundPage(0, Applies::kNo), m_home(home) {}
+
+    QCheckBox* any = nullptr;
+    QCheckBox* follower = nullptr;
+    uint32_t held = 0;
+    std::string heldText;
+
+protected:
+    bool BuildControls() override {
+        any = new QCheckBox(this);
+        follower = new QCheckBox(this);
+        return true;
+    }
+    void BindControls() override {
+        if (m_home != nullptr) m_bind.SetHome(m_home);
+        m_bind.Hold(kOptions, kHeldBits, &held);
+        m_bind.HoldText(kHeldText, &heldText);
+        m_bind.Check(any, kOptions, AnyCodec());
+        m_bind.Check(follower, kOptions, FollowerCodec());
+    }
+
+private:
+    ValueHome* m_home;
+};
+
+class HeldPageTest : public BoundPageTest {
+protected:
+    std::unique_ptr<HeldPage> MakeHeld(ValueHome* home = nullptr) {
+        auto page = std::make_unique<HeldPage>(home);
+        EXPECT_TRUE(page->Create(&m_parent));
+        return page;
+    }
+};
+
+TEST_F(HeldPageTest, ACodecBoxReadsItsCodecAndWritesEveryBitOfIt) {
+    SetWord(kOptions, 0x100);
+    auto page = MakeHeld();
+    EXPECT_TRUE(page->any->isChecked());
+    page->Save();
+    EXPECT_EQ(Word(kOptions) & kAnyBits, kAnyBits);
+    page->any->click();
+    page->Save();
+    EXPECT_EQ(Word(kOptions) & kAnyBits, 0U);
+}
+
+TEST_F(HeldPageTest, HeldValuesComeFromLoadAndGoBackAtSave) {
+    SetWord(kOptions, 0x3000 | 0x80000);
+    SetText(kHeldText, "exe/dll");
+    auto page = MakeHeld();
+    EXPECT_EQ(page->held & kHeldBits, 0x3000U);
+    EXPECT_EQ(page->heldText, "exe/dll");
+    page->held = 0x4000;
+    page->heldText = "doc";
+    SetWord(kOptions, 0x3000 | 0x200000);  // a bit that nobody owns changed meanwhile
+    page->Save();
+    EXPECT_EQ(Word(kOptions), 0x4000U | 0x200000U);
+    EXPECT_EQ(Text(kHeldText), "doc");
+}
+
+TEST_F(HeldPageTest, ControlsBoundAfterAHeldValueSeeItWhenTheyCollect) {
+    SetWord(kOptions, 0x1000);
+    auto page = MakeHeld();
+    EXPECT_FALSE(page->follower->isChecked());
+    page->Save();
+    EXPECT_EQ(Word(kOptions) & kFollowerBit, 0U);
+    page->held = 0;
+    page->Save();
+    EXPECT_EQ(Word(kOptions) & kFollowerBit, kFollowerBit);
+}
+
+TEST_F(HeldPageTest, CollectWordAndShowWordWorkOnOneWordWithoutTheStore) {
+    SetWord(kOptions, 0);
+    auto page = MakeHeld();
+    page->any->click();
+    page->held = 0x1000;
+    EXPECT_EQ(page->Binder().CollectWord(kOptions, 0x80000), 0x80000U | 0x1000U | kAnyBits);
+    page->Binder().ShowWord(kOptions, 0x2000 | kFollowerBit);
+    EXPECT_FALSE(page->any->isChecked());
+    EXPECT_TRUE(page->follower->isChecked());
+    EXPECT_EQ(page->held, 0x2000U);
+    EXPECT_EQ(Word(kOptions), 0U);
+}
+
+TEST_F(HeldPageTest, APageWithAHomeOfItsOwnNeverTouchesTheStore) {
+    SetWord(kOptions, 0x1);
+    MemoryHome home;
+    home.words[kOptions] = 0x100 | 0x2000;
+    home.texts[kHeldText] = "vbs";
+    auto page = MakeHeld(&home);
+    EXPECT_TRUE(page->any->isChecked());
+    EXPECT_EQ(page->heldText, "vbs");
+    page->any->click();
+    page->Save();
+    EXPECT_EQ(home.words[kOptions], 0x2000U);
+    EXPECT_EQ(home.texts[kHeldText], "vbs");
+    EXPECT_EQ(Word(kOptions), 0x1U);
 }
 
 }  // namespace
