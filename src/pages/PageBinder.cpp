@@ -243,8 +243,8 @@ private:
 
 class TextBinding : public Binding {
 public:
-    TextBinding(QLineEdit* edit, StoreAddress text, int32_t maxLength)
-        : m_edit(edit), m_text(text), m_maxLength(maxLength) {}
+    TextBinding(QLineEdit* edit, StoreAddress text, int32_t maxLength, FieldCheck check)
+        : m_edit(edit), m_text(text), m_maxLength(maxLength), m_check(check) {}
 
     void Show(const StoreValues& values) override {
         m_edit->setText(QString::fromStdString(values.Text(m_text)));
@@ -252,7 +252,7 @@ public:
     std::optional<StoreAddress> TextAddress() const override { return m_text; }
     std::string CollectText() const override { return m_edit->text().toStdString(); }
     int32_t Validate(QWidget* owner) const override {
-        if (!IsEnabledItself(m_edit)) return 0;
+        if (m_check == FieldCheck::kWhenEnabled && !IsEnabledItself(m_edit)) return 0;
         if (ValidateLength(owner, CollectText(), m_maxLength) == 0) return 0;
         m_edit->setFocus();
         return 1;
@@ -265,6 +265,7 @@ private:
     QPointer<QLineEdit> m_edit;
     StoreAddress m_text;
     int32_t m_maxLength;
+    FieldCheck m_check;
 };
 
 }  // namespace
@@ -308,8 +309,9 @@ void CPageBinder::Number(CNumberSpin* spin, StoreAddress word, int32_t low, int3
     Add(std::make_unique<NumberBinding>(spin, word, low, high, check));
 }
 
-void CPageBinder::Text(QLineEdit* edit, StoreAddress text, int32_t maxLength) {
-    Add(std::make_unique<TextBinding>(edit, text, maxLength));
+void CPageBinder::Text(QLineEdit* edit, StoreAddress text, int32_t maxLength,
+                       FieldCheck check) {
+    Add(std::make_unique<TextBinding>(edit, text, maxLength, check));
 }
 
 void CPageBinder::Owns(StoreAddress word, uint32_t bits) { m_declared[word] |= bits; }

@@ -81,7 +81,8 @@ public:
     void Number(CNumberSpin* spin, StoreAddress word, int32_t low, int32_t high,
                 FieldCheck check = FieldCheck::kWhenEnabled);
     // A text field for a store text of at most maxLength characters.
-    void Text(QLineEdit* edit, StoreAddress text, int32_t maxLength);
+    void Text(QLineEdit* edit, StoreAddress text, int32_t maxLength,
+              FieldCheck check = FieldCheck::kWhenEnabled);
     // Bits of a word that no control shows but the page keeps in *held
     // between Show and Save (a dialog of the page edits them there). Bound
     // before the controls of the same word, so that their codecs see them.

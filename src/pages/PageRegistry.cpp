@@ -4,7 +4,12 @@
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
 #include "pages/scan/FeatureSwitchPage.h"
+#include "pages/scan/InternetMonitorPage.h"
 #include "pages/scan/MailSwitchPage.h"
+#include "pages/scan/ScreenSaverPage.h"
+#include "pages/scan/StartupPage.h"
+#include "pages/scan/SystemMonitorPage.h"
+#include "pages/scan/SystemScanPage.h"
 #include "pages/targets/ExcludePage.h"
 
 namespace {
@@ -28,13 +33,13 @@ constexpr PageRow Unbuilt(PageId id, int templateId, uint32_t titleId) {
 
 constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CFeatureSwitchPage>(kFeatureSwitch, 17),
-    Unbuilt(kSystemScan, 111, 4),
-    Unbuilt(kSystemScanSpare, 111, 4),
-    Unbuilt(kScreenSaverScan, 114, 7),
+    Built<CSystemScanPage>(kSystemScan, 4),
+    Built<CSystemScanPage>(kSystemScanSpare, 4),
+    Built<CScreenSaverPage>(kScreenSaverScan, 7),
     Unbuilt(kSchedule, 113, 6),
-    Unbuilt(kSystemMonitor, 115, 8),
-    Unbuilt(kInternetMonitorSpare, 117, 13),
-    Unbuilt(kInternetMonitor, 117, 16),
+    Built<CSystemMonitorPage>(kSystemMonitor, 8),
+    Built<CInternetMonitorPage>(kInternetMonitorSpare, 13),
+    Built<CInternetMonitorPage>(kInternetMonitor, 16),
     Built<CMailSwitchPage>(kMailSwitch, 18),
     Unbuilt(kWarnMail, 1015, 19),
     Unbuilt(kPop3Config, 1011, 9),
@@ -52,7 +57,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Unbuilt(kScheduleScan, 1010, 0),
     Unbuilt(kEasyConfig, 1030, 1),
     Unbuilt(kMessenger, 1032, 21),
-    Unbuilt(kStartup, 1031, 22),
+    Built<CStartupPage>(kStartup, 22),
     Unbuilt(kSpam, 1033, 23),
     Unbuilt(kCompressTab, 1036, 24),
     Unbuilt(kFileTypeTab, 1035, 25),

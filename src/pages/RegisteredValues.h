@@ -8,6 +8,8 @@
 // Apply brings each registration into line with the word it saved.
 
 #include <cstdint>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "options/StoreValues.h"
@@ -16,16 +18,26 @@ class CSiblingLibs;
 
 class RegisteredValues : public StoreValues {
 public:
-    // Asks whether each function of codes is registered, in that order; the
-    // word at address then holds the bits of the registered ones.
+    // A function and the switch word that holds its bit.
+    struct Function {
+        StoreAddress word;
+        int32_t code;
+    };
+
+    // Asks whether each function is registered, in that order; the
+    // functions' bits of their words then read as the answers, and the
+    // words' other bits as the store holds them.
+    RegisteredValues(CSiblingLibs& siblings, const std::vector<Function>& functions);
+    // The same for functions whose bits lie in one word, all of whose bits
+    // then read as the answers.
     RegisteredValues(CSiblingLibs& siblings, StoreAddress address,
                      const std::vector<int32_t>& codes);
 
     uint32_t Word(StoreAddress address) const override;
 
 private:
-    StoreAddress m_address;
-    uint32_t m_registered = 0;
+    // Per word: the functions' bits, and which of them are registered.
+    std::map<StoreAddress, std::pair<uint32_t, uint32_t>> m_words;
 };
 
 // Registers the function code when its bit of word is set, and unregisters

@@ -30,7 +30,7 @@ bool CSettingsPage::Create(QWidget* parent) {
 bool CSettingsPage::BuildControls() { return BuildDialogTemplate(m_templateId, this); }
 
 void CSettingsPage::Save() {
-    if (m_covered == 0) OnSave();
+    if (m_covered == 0 || SavesWhenCovered()) OnSave();
 }
 
 void CSettingsPage::SetIcons(const ImageList*) {}

@@ -37,7 +37,7 @@ public:
     bool Create(QWidget* parent);
 
     // Writes the controls to the store; nothing on a covered page, whatever
-    // the page's OnSave would do.
+    // the page's OnSave would do, unless the page saves when covered.
     void Save();
 
     // Operations a page overrides; the defaults are the ones named.
@@ -82,6 +82,8 @@ public:
 protected:
     // Save's work on a page that is not covered.
     virtual void OnSave() {}
+    // Whether Save works on a covered page all the same.
+    virtual bool SavesWhenCovered() const { return false; }
     // Makes the page's controls; by default from its dialog template by id.
     virtual bool BuildControls();
     // The window's start-up, after the controls exist. Pages fill fixed

@@ -15,8 +15,11 @@ std::string LengthMessageText(int32_t limit) {
 }
 
 int32_t ShowRangeMessage(QWidget* owner, int32_t low, int32_t high) {
-    ShowMessage(owner, RangeMessageText(low, high), LoadString(strings::kConfigurationError),
-                msg::kOk);
+    return ShowConfigurationError(owner, RangeMessageText(low, high));
+}
+
+int32_t ShowConfigurationError(QWidget* owner, const std::string& text) {
+    ShowMessage(owner, text, LoadString(strings::kConfigurationError), msg::kOk);
     return 1;
 }
 

@@ -24,6 +24,9 @@ int32_t ShowRangeMessage(QWidget* owner, int32_t low, int32_t high);
 // Shows the length message; returns 1.
 int32_t ShowLengthMessage(QWidget* owner, int32_t limit);
 
+// Shows text as a configuration error (caption 900, OK); returns 1.
+int32_t ShowConfigurationError(QWidget* owner, const std::string& text);
+
 // Whether text is longer than limit characters (bytes of the 8-bit text).
 bool ExceedsLength(const std::string& text, int32_t limit);
 

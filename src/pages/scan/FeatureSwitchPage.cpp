@@ -5,11 +5,10 @@
 #include "options/ScanBits.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "pages/scan/MonitorQuestion.h"
 #include "q9cfgul.h"
 #include "session/SiblingLibs.h"
-#include "text/MessageService.h"
 #include "text/StringTable.h"
-#include "text/TextFormat.h"
 
 namespace {
 
@@ -96,17 +95,11 @@ void CFeatureSwitchPage::OnRowClicked(const Row& row) {
 }
 
 void CFeatureSwitchPage::ConfirmMonitorOff() {
-    std::string text;
+    int minutes = -1;
     if (Context().Siblings().ServiceControl(SC_IsRegistered, SSCT_MONSYS_AUTO, kServiceOption) !=
-        0) {
-        const auto minutes =
-            static_cast<int>(StoreValues().Word({CES_SystemMonitor, CEK_MonitorRestart}));
-        text = FormatResource(LoadString(strings::kCloseMonitorRestartQuestion).c_str(), minutes);
-    } else {
-        text = LoadString(strings::kCloseMonitorQuestion);
-    }
-    if (ShowApplicationMessage(this, text, msg::kYesNo | msg::kIconQuestion) != msg::kIdYes)
-        m_ui.monitorBox->setChecked(true);
+        0)
+        minutes = static_cast<int>(StoreValues().Word({CES_SystemMonitor, CEK_MonitorRestart}));
+    if (!::ConfirmMonitorOff(this, minutes)) m_ui.monitorBox->setChecked(true);
 }
 
 void CFeatureSwitchPage::SaveRelated() {

@@ -1,0 +1,83 @@
+#include "pages/scan/ScreenSaverPage.h"
+
+#include "options/StoreAccess.h"
+#include "options/StoreKeys.h"
+#include "options/SwitchWord.h"
+#include "pages/targets/ScanListDlg.h"
+
+namespace {
+
+constexpr int kListButton = 1120;
+
+ScanPageTraits ScreenSaverTraits() {
+    ScanPageTraits traits;
+    traits.section = CES_ScreenSaver;
+    traits.advancedVariant = 0;
+    traits.enableFirst = 1033;
+    traits.enableLast = 1071;
+    return traits;
+}
+
+std::vector<Target> StoredTargets() {
+    std::vector<Target> targets;
+    for (const ObjectRecord& record : ReadObjectList(CES_ScreenSaver))
+        targets.push_back({record.kind, record.text});
+    return targets;
+}
+
+}  // namespace
+
+CScreenSaverPage::CScreenSaverPage() : CFormPage(kTemplateId, ScreenSaverTraits()) {}
+
+ScanBlock CScreenSaverPage::Block() {
+    ScanBlock block;
+    block.closeView = m_ui.closeViewBox;
+    block.autoRepair = m_ui.autoRepairBox;
+    block.compressed = m_ui.compressedBox;
+    block.executableFiles = m_ui.executableRadio;
+    block.allFiles = m_ui.allFilesRadio;
+    block.advanced = m_ui.advancedButton;
+    block.backup = m_ui.backupBox;
+    block.repairable = m_ui.repairableCombo;
+    block.unrepairable = m_ui.unrepairableCombo;
+    block.compressedFiles = m_ui.compressedCombo;
+    block.recompress = m_ui.recompressBox;
+    block.executing = m_ui.executingCombo;
+    return block;
+}
+
+std::vector<PageFunction> CScreenSaverPage::Functions() {
+    return {{m_ui.functionBox, SSCT_SCRSAVER_SCAN, CEK_Switch_Scan}};
+}
+
+void CScreenSaverPage::BindMore() {
+    // The object list: the page rewrites it whole when the user changed it.
+    m_bind.OwnsText({CES_ScreenSaver, kObjectListKey});
+}
+
+void CScreenSaverPage::Load() {
+    CScanProfilePage::Load();
+    m_targets = StoredTargets();
+    m_targetsChanged = false;
+}
+
+void CScreenSaverPage::SaveRelated() {
+    if (!m_targetsChanged) return;
+    std::vector<ObjectRecord> records;
+    for (const Target& target : m_targets) records.push_back({target.kind, target.text});
+    WriteObjectList(CES_ScreenSaver, records);
+    m_targetsChanged = false;
+}
+
+void CScreenSaverPage::OnPageCommand(int id, ctl::Notification code) {
+    if (id == kListButton && code == ctl::Notification::kClicked) EditTargets();
+}
+
+void CScreenSaverPage::EditTargets() {
+    CScanListDlg dialog(EncodeTargetList(m_targets), this);
+    if (dialog.DoModal() != 1 || !dialog.IsChanged()) return;
+    const std::string& list = dialog.GetList();
+    m_targets = ParseTargetList(list.data(), list.size()).targets;
+    m_targetsChanged = true;
+    MarkModified();
+}

@@ -1,0 +1,149 @@
+#include "pages/scan/SystemMonitorPage.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <string>
+
+#include "options/ExtensionText.h"
+#include "options/ScanBits.h"
+#include "options/StoreKeys.h"
+#include "options/SwitchWord.h"
+#include "pages/scan/MonitorQuestion.h"
+#include "pages/scan/ProfileCodecs.h"
+#include "text/StringTable.h"
+#include "text/TextFormat.h"
+#include "text/ValidatorMessages.h"
+
+namespace {
+
+constexpr StoreAddress kMonitorExtra = {CES_SystemMonitor, CEK_ScanExtra};
+constexpr StoreAddress kMonitorOptions = {CES_SystemMonitor, CEK_MonitorOptions};
+constexpr StoreAddress kBlockTypes = {CES_SystemMonitor, CEK_MonitorText};
+constexpr StoreAddress kRestartInterval = {CES_SystemMonitor, CEK_MonitorRestart};
+
+constexpr int kFunctionBox = 1005;
+constexpr int kBlockCombo = 1032;
+constexpr int kBlockTypesEdit = 1031;
+constexpr int kAutoRestartBox = 1106;
+
+// The interval in minutes; Default shows the usual one, as the store keeps
+// no default for it.
+constexpr int32_t kLeastInterval = 10;
+constexpr int32_t kMostInterval = 10000;
+constexpr int32_t kDefaultInterval = 60;
+
+// The blocking methods in the combo's order, with their texts.
+const std::vector<BlockMethod> kBlockItems = {BlockMethod::DoNotBlock, BlockMethod::ChangeExtension,
+                                              BlockMethod::Delete, BlockMethod::Block};
+constexpr uint32_t kBlockTexts[] = {603, 601, 600, 602};
+
+ScanPageTraits SystemMonitorTraits() {
+    ScanPageTraits traits;
+    traits.section = CES_SystemMonitor;
+    traits.advancedVariant = 2;
+    traits.executing = MonitorExecutingItems();
+    // The monitor's consumers expect bits 24 and 25; the scan setting mark
+    // is not the monitor's.
+    traits.forcedOptions = kScanMonitorForced;
+    traits.enableFirst = kFunctionBox;
+    traits.enableLast = kBlockTypesEdit;
+    return traits;
+}
+
+bool IsDigits(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+}  // namespace
+
+CSystemMonitorPage::CSystemMonitorPage() : CFormPage(kTemplateId, SystemMonitorTraits()) {}
+
+ScanBlock CSystemMonitorPage::Block() {
+    ScanBlock block;
+    block.autoRepair = m_ui.autoRepairBox;
+    block.executableFiles = m_ui.executableRadio;
+    block.allFiles = m_ui.allFilesRadio;
+    block.advanced = m_ui.advancedButton;
+    block.backup = m_ui.backupBox;
+    block.repairable = m_ui.repairableCombo;
+    block.unrepairable = m_ui.unrepairableCombo;
+    block.executing = m_ui.executingCombo;
+    return block;
+}
+
+std::vector<PageFunction> CSystemMonitorPage::Functions() {
+    // Apply switches the restart before the monitor itself.
+    return {{m_ui.autoRestartBox, SSCT_MONSYS_AUTO, CEK_Switch_General},
+            {m_ui.functionBox, SSCT_SYSTEM_MONITOR, CEK_Switch_Scan}};
+}
+
+void CSystemMonitorPage::BindMore() {
+    m_bind.Bit(m_ui.infectorBox, kMonitorExtra, kExtraInfector);
+    m_bind.Combo(m_ui.blockCombo, kMonitorOptions, BlockMethodCodec(kBlockItems));
+    m_bind.Text(m_ui.blockTypesEdit, kBlockTypes, static_cast<int32_t>(kMaxExtensionText),
+                FieldCheck::kAlways);
+    m_bind.Owns(kRestartInterval, kWholeWord);
+    QObject::connect(m_ui.intervalEdit, &QLineEdit::textEdited, this, [this] {
+        MarkModified();
+        m_needApply = 1;
+    });
+}
+
+void CSystemMonitorPage::PrepareControls() {
+    CScanProfilePage::PrepareControls();
+    for (const uint32_t text : kBlockTexts)
+        m_ui.blockCombo->addItem(QString::fromStdString(LoadString(text)));
+}
+
+void CSystemMonitorPage::ShowMore(const StoreValues& values) {
+    m_ui.intervalEdit->setText(QString::number(static_cast<int32_t>(values.Word(kRestartInterval))));
+}
+
+int32_t CSystemMonitorPage::OnDefault() {
+    CScanProfilePage::OnDefault();
+    m_ui.intervalEdit->setText(QString::number(kDefaultInterval));
+    return 1;
+}
+
+void CSystemMonitorPage::SaveRelated() {
+    // Validation let only a number within the limits through.
+    int32_t minutes = 0;
+    if (ReadInterval(minutes)) WriteWord(kRestartInterval, static_cast<uint32_t>(minutes));
+}
+
+bool CSystemMonitorPage::ReadInterval(int32_t& minutes) const {
+    const std::string text = m_ui.intervalEdit->text().toStdString();
+    if (!IsDigits(text) || text.size() > 5) return false;
+    minutes = std::stoi(text);
+    return minutes >= kLeastInterval && minutes <= kMostInterval;
+}
+
+int32_t CSystemMonitorPage::ValidateMore() {
+    // Checked whether the restart is on or not.
+    int32_t minutes = 0;
+    if (ReadInterval(minutes)) return 0;
+    const std::string text =
+        FormatResource(LoadString(strings::kRangeMessage).c_str(),
+                       std::to_string(kLeastInterval).c_str(), std::to_string(kMostInterval).c_str());
+    ShowConfigurationError(this, text);
+    m_ui.intervalEdit->setFocus();
+    return 1;
+}
+
+void CSystemMonitorPage::UpdateEnables() {
+    CScanProfilePage::UpdateEnables();
+    if (FunctionOn() && m_ui.blockCombo->currentIndex() < 1)
+        EnableRange(kBlockCombo, kBlockTypesEdit, false, false);
+    EnableRange(kAutoRestartBox, -1, m_ui.autoRestartBox->isChecked(), false);
+}
+
+void CSystemMonitorPage::OnPageCommand(int id, ctl::Notification code) {
+    if (id != kFunctionBox || code != ctl::Notification::kClicked) return;
+    if (m_ui.functionBox->isChecked()) return;
+    int minutes = -1;
+    if (m_ui.autoRestartBox->isChecked()) {
+        const std::string text = m_ui.intervalEdit->text().toStdString();
+        minutes = IsDigits(text) && text.size() <= 9 ? std::stoi(text) : 0;
+    }
+    if (!ConfirmMonitorOff(this, minutes)) m_ui.functionBox->setChecked(true);
+}
