@@ -1,6 +1,7 @@
 #include "SwitchPageTest.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <filesystem>
 
 #include "framework/DialogControls.h"
@@ -51,6 +52,27 @@ void SwitchPageTest::Click(CSettingsPage* page, int id) {
 
 bool SwitchPageTest::IsChecked(const CSettingsPage* page, int id) {
     return ctl::GetCheck(page, id) == 1;
+}
+
+void SwitchPageTest::Choose(CSettingsPage* page, int id, int index) {
+    auto* combo = qobject_cast<QComboBox*>(ctl::Find(page, id));
+    ASSERT_NE(combo, nullptr) << id;
+    ASSERT_LT(index, combo->count()) << id;
+    combo->setCurrentIndex(index);
+    emit combo->activated(index);
+}
+
+int SwitchPageTest::ChosenItem(const CSettingsPage* page, int id) {
+    const auto* combo = qobject_cast<const QComboBox*>(ctl::Find(page, id));
+    return combo ? combo->currentIndex() : -2;
+}
+
+std::vector<std::string> SwitchPageTest::ItemsOf(const CSettingsPage* page, int id) {
+    std::vector<std::string> items;
+    if (const auto* combo = qobject_cast<const QComboBox*>(ctl::Find(page, id))) {
+        for (int i = 0; i < combo->count(); ++i) items.push_back(combo->itemText(i).toStdString());
+    }
+    return items;
 }
 
 bool SwitchPageTest::IsShown(const CSettingsPage* page, int id) { return ctl::IsShown(page, id); }

@@ -43,6 +43,10 @@ protected:
     // A user's click on a check box.
     static void Click(CSettingsPage* page, int id);
     static bool IsChecked(const CSettingsPage* page, int id);
+    // A user's choice of item index in a combo, and what a combo shows.
+    static void Choose(CSettingsPage* page, int id, int index);
+    static int ChosenItem(const CSettingsPage* page, int id);
+    static std::vector<std::string> ItemsOf(const CSettingsPage* page, int id);
     static bool IsShown(const CSettingsPage* page, int id);
     static bool IsEnabled(const CSettingsPage* page, int id);
     static QPoint PositionOf(const CSettingsPage* page, int id);
