@@ -6,6 +6,7 @@
 #include "pages/scan/FeatureSwitchPage.h"
 #include "pages/scan/InternetMonitorPage.h"
 #include "pages/scan/MailSwitchPage.h"
+#include "pages/scan/MessengerPage.h"
 #include "pages/scan/ScreenSaverPage.h"
 #include "pages/scan/StartupPage.h"
 #include "pages/scan/SystemMonitorPage.h"
@@ -56,7 +57,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Unbuilt(kScheduleTime, 1008, 0),
     Unbuilt(kScheduleScan, 1010, 0),
     Unbuilt(kEasyConfig, 1030, 1),
-    Unbuilt(kMessenger, 1032, 21),
+    Built<CMessengerPage>(kMessenger, 21),
     Built<CStartupPage>(kStartup, 22),
     Unbuilt(kSpam, 1033, 23),
     Unbuilt(kCompressTab, 1036, 24),

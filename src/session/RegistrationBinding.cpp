@@ -1,5 +1,7 @@
 #include "session/RegistrationBinding.h"
 
+#include <cerrno>
+
 #include "session/ProcessState.h"
 
 namespace {
@@ -21,12 +23,18 @@ int32_t RegistrationBinding::Load() { return m_library.Load(g_szModuleDir, "Q9SS
 void RegistrationBinding::Release() { m_library.Release(); }
 
 int32_t RegistrationBinding::Control(int32_t op, int32_t item, int32_t option) {
-    if (!Load()) return 0;
-    if (op == SC_Unregister) {
-        return m_library.CallOr<int32_t(int32_t, int32_t, int32_t)>(0, "Q9SSCtrl_Unregister", item,
-                                                                    kUnregisterTimeoutMs, option);
+    if (!Load()) {
+        m_lastError = ENOENT;
+        return 0;
     }
-    return m_library.CallOr<int32_t(int32_t)>(0, ItemEntryOf(op), item);
+    errno = 0;
+    const int32_t answer =
+        op == SC_Unregister
+            ? m_library.CallOr<int32_t(int32_t, int32_t, int32_t)>(
+                  0, "Q9SSCtrl_Unregister", item, kUnregisterTimeoutMs, option)
+            : m_library.CallOr<int32_t(int32_t)>(0, ItemEntryOf(op), item);
+    m_lastError = errno;
+    return answer;
 }
 
 int32_t RegistrationBinding::HasEnoughPrivilege() {

@@ -34,10 +34,15 @@ public:
     // The entry point of op: op 3 is Unregister(item, 5000, option); the
     // other ops pass the item alone.
     int32_t Control(int32_t op, int32_t item, int32_t option);
+    // The reason the library gave with the last Control's answer: the errno
+    // it left (ENOTSUP: this system cannot run the function; 0: none), or
+    // ENOENT when the library is missing.
+    int32_t LastError() const { return m_lastError; }
 
     // Whether the user may change registrations.
     int32_t HasEnoughPrivilege();
 
 private:
     platform::SharedLibrary m_library;
+    int32_t m_lastError = 0;
 };

@@ -68,6 +68,8 @@ public:
     // Or-s setBits into the pending mask, then removes clearBits; returns the
     // mask as it was before.
     uint32_t MarkPending(uint32_t setBits, uint32_t clearBits);
+    // The reason Q9SSCtrl gave with its last answer (RegistrationBinding).
+    int32_t LastError() const { return m_registration.LastError(); }
     uint32_t GetPending() const;
 
     // Whether the user may change registrations; 0 when missing.

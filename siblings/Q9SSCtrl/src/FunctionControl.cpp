@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <cerrno>
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -31,7 +33,11 @@ bool FunctionControl::IsProductItem(int32_t item) {
 bool FunctionControl::CanBeRegister(int32_t item) const {
     const auto setting = sibling::ProfileFile::Load(m_directory + kSettingsFile)
                              .GetInt("Registrable", std::to_string(item));
-    return setting ? *setting != 0 : IsProductItem(item);
+    const bool can = setting ? *setting > 0 : IsProductItem(item);
+    // Why not, for the caller's errno: this system cannot run the function
+    // at all (a setting of -1), or its program is not installed.
+    if (!can) errno = setting && *setting < 0 ? ENOTSUP : ENOENT;
+    return can;
 }
 
 bool FunctionControl::IsRegistered(int32_t item) const {

@@ -1,6 +1,8 @@
 // The C entry points: each answers what FunctionControl says (0 when it
-// throws) and records the call in the journal.
+// throws) and records the call in the journal. errno holds the reason of
+// an answer of 0 where FunctionControl gives one.
 
+#include <cerrno>
 #include <optional>
 #include <string>
 
@@ -18,16 +20,21 @@ template <typename Question>
 int32_t Journalled(const char* entryPoint, std::optional<int32_t> item,
                    const std::string& arguments, Question question) {
     int32_t result = 0;
+    errno = 0;
     try {
         result = question(FunctionControl()) ? 1 : 0;
     } catch (...) {
         result = 0;
     }
+    // The caller reads errno as the reason of the answer: the journal's
+    // file calls must not change it.
+    const int reason = errno;
     try {
         CallJournal::Append(entryPoint, item, arguments, result);
     } catch (...) {
         // The answer stands without its journal line.
     }
+    errno = reason;
     return result;
 }
 
