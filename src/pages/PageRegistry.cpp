@@ -3,10 +3,15 @@
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
+#include "pages/scan/CompressTabPage.h"
 #include "pages/scan/FeatureSwitchPage.h"
+#include "pages/scan/FileTypeTabPage.h"
+#include "pages/scan/HarmfulTabPage.h"
 #include "pages/scan/InternetMonitorPage.h"
 #include "pages/scan/MailSwitchPage.h"
 #include "pages/scan/MessengerPage.h"
+#include "pages/scan/ScanMethodTabPage.h"
+#include "pages/scan/ScanOptionTabPage.h"
 #include "pages/scan/ScreenSaverPage.h"
 #include "pages/scan/StartupPage.h"
 #include "pages/scan/SystemMonitorPage.h"
@@ -60,11 +65,11 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CMessengerPage>(kMessenger, 21),
     Built<CStartupPage>(kStartup, 22),
     Unbuilt(kSpam, 1033, 23),
-    Unbuilt(kCompressTab, 1036, 24),
-    Unbuilt(kFileTypeTab, 1035, 25),
-    Unbuilt(kScanMethodTab, 1039, 27),
-    Unbuilt(kScanOptionTab, 1037, 26),
-    Unbuilt(kHarmfulTab, 1040, 28),
+    Built<CCompressTabPage>(kCompressTab, 24),
+    Built<CFileTypeTabPage>(kFileTypeTab, 25),
+    Built<CScanMethodTabPage>(kScanMethodTab, 27),
+    Built<CScanOptionTabPage>(kScanOptionTab, 26),
+    Built<CHarmfulTabPage>(kHarmfulTab, 28),
     Unbuilt(kAlarmMail, 1041, 57358),
     Unbuilt(kMailAccount, 1049, 57359),
     Unbuilt(kBlockNetwork, 1045, 57362),

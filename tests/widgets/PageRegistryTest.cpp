@@ -15,6 +15,7 @@
 #include "SwitchPageTest.h"
 #include "pages/BoundPage.h"
 #include "pages/PageRegistry.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
@@ -30,8 +31,9 @@ namespace {
 constexpr std::array<int, 2> kShellTemplates = {CConfigDlg::kTemplateId,
                                                 CPageShellDlg::kTemplateId};
 // The forms of the dialogs that pages open.
-constexpr std::array<int, 3> kPageDialogTemplates = {
-    CScanListDlg::kTemplateId, CAddFolderDlg::kTemplateId, CAddExtensionDlg::kTemplateId};
+constexpr std::array<int, 4> kPageDialogTemplates = {
+    CScanListDlg::kTemplateId, CAddFolderDlg::kTemplateId, CAddExtensionDlg::kTemplateId,
+    CAdvancedScanDlg::kTemplateId};
 
 std::vector<PageRow> BuiltRows() {
     std::vector<PageRow> rows;

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QWidget>
 #include <memory>
 #include <string>
@@ -19,6 +20,7 @@
 #include "UiLanguages.h"
 #include "pages/PageRegistry.h"
 #include "pages/SettingsPage.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
@@ -165,6 +167,27 @@ TEST_P(TextFitTest, EveryTextOfTheTargetDialogsFitsItsControl) {
     QWidget addExtensionForm;
     Ui::Dialog1029().setupUi(&addExtensionForm);
     CheckForm(addExtensionForm, CAddExtensionDlg::kTemplateId);
+}
+
+TEST_P(TextFitTest, EveryTextOfTheAdvancedScanDialogFitsItsControl) {
+    ScopedUiLanguage language(GetParam());
+    ASSERT_TRUE(language.Loaded()) << GetParam().file;
+    QWidget advancedForm;
+    Ui::Dialog1038().setupUi(&advancedForm);
+    CheckForm(advancedForm, CAdvancedScanDlg::kTemplateId);
+}
+
+// The four tabs of the system scan stand side by side, without scroll buttons.
+TEST_P(TextFitTest, TheTabsOfTheAdvancedScanDialogFitTheirBar) {
+    ScopedUiLanguage language(GetParam());
+    ASSERT_TRUE(language.Loaded()) << GetParam().file;
+    CAdvancedScanDlg dialog(0, nullptr);
+    dialog.m_nVariant = kAdvancedSystemScan;
+    ASSERT_TRUE(dialog.Create());
+    const auto* tabs = qobject_cast<const QTabBar*>(dialog.Control(1124));
+    ASSERT_NE(tabs, nullptr);
+    ASSERT_EQ(tabs->count(), 4);
+    EXPECT_LE(tabs->sizeHint().width(), tabs->width()) << GetParam().name;
 }
 
 std::string TextFitLanguageName(const testing::TestParamInfo<UiLanguage>& info) {

@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QTabBar>
 #include <cstdio>
 #include <string>
 #include <vector>
 
 #include "controls/ShellTree.h"
 #include "controls/TargetTree.h"
+#include "options/ScanBits.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
@@ -16,18 +19,25 @@
 
 namespace {
 
-// Shows dialog, saves it as <folder>/dialog<id>.png and closes it; whether
-// the file was written.
-bool SaveDialog(CDialog& dialog, int id, const QString& folder) {
-    dialog.show();
+// Saves the dialog as it shows now to <folder>/<name>.png; whether the file
+// was written.
+bool SaveShown(CDialog& dialog, const QString& name, const QString& folder) {
     QApplication::processEvents();
-    const QString file = QString("%1/dialog%2.png").arg(folder).arg(id);
+    const QString file = QString("%1/%2.png").arg(folder, name);
     const bool saved = dialog.grab().save(file);
     if (saved) {
         std::printf("%s\n", qPrintable(QDir(file).absolutePath()));
     } else {
         std::fprintf(stderr, "q9shots: cannot write %s\n", qPrintable(file));
     }
+    return saved;
+}
+
+// Shows dialog, saves it as <folder>/dialog<id>.png and closes it; whether
+// the file was written.
+bool SaveDialog(CDialog& dialog, int id, const QString& folder) {
+    dialog.show();
+    const bool saved = SaveShown(dialog, QString("dialog%1").arg(id), folder);
     dialog.reject();
     return saved;
 }
@@ -69,9 +79,39 @@ bool SaveAddExtension(const QString& folder) {
     return SaveDialog(dialog, CAddExtensionDlg::kTemplateId, folder);
 }
 
+// The tabs of the advanced scan dialog of a variant from firstTab on, filled
+// with a system scan's usual values, as <folder>/dialog1038-page<page>.png.
+bool SaveAdvancedScan(int32_t variant, int firstTab, const QString& folder) {
+    CAdvancedScanDlg dialog(0, nullptr);
+    dialog.m_nVariant = variant;
+    dialog.m_dwOptions = kScanDefaultKinds | kScanCustomized | kScanCompressed |
+                         kScanExeCompressed | kScanHarmful | kScanFloppyBoot | kScanNtWarning;
+    dialog.m_dwExtra = kExtraLocalRead | kExtraLocalWrite | kExtraCloseShells;
+    dialog.m_nDepth = 5;
+    dialog.m_dwKinds = 0x1180100;  // Cab, Rar, Tar, Zip
+    dialog.m_strExtensions = "doc/xls";
+    dialog.m_dwHarmful = kHarmfulJoke | kHarmfulKeyLogger;
+    if (!dialog.Create()) return false;
+    dialog.show();
+    auto* tabs = qobject_cast<QTabBar*>(dialog.Control(1124));
+    bool saved = true;
+    for (int tab = firstTab; tab < tabs->count() && saved; ++tab) {
+        tabs->setCurrentIndex(tab);
+        const QString name = QString("dialog%1-page%2")
+                                 .arg(CAdvancedScanDlg::kTemplateId)
+                                 .arg(tabs->tabData(tab).toInt());
+        saved = SaveShown(dialog, name, folder);
+    }
+    dialog.reject();
+    return saved;
+}
+
 }  // namespace
 
 int SaveTargetDialogs(const QString& folder) {
-    const bool saved = SaveScanList(folder) && SaveAddFolder(folder) && SaveAddExtension(folder);
+    const bool saved = SaveScanList(folder) && SaveAddFolder(folder) && SaveAddExtension(folder) &&
+                       SaveAdvancedScan(kAdvancedSystemScan, 0, folder) &&
+                       // The monitor's scan options; its file types are the tab above.
+                       SaveAdvancedScan(kAdvancedMonitor, 1, folder);
     return saved ? 0 : 1;
 }

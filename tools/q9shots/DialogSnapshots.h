@@ -5,7 +5,9 @@
 // Renders the dialogs that edit what a scan covers, each filled as a user
 // would see it, to <folder>/dialog<template>.png: "Set List to Scan" (1007)
 // with a list of three targets and the machine's folders beside it, "Add
-// folders" (1028) as it opens, and "Add extensions" (1029) with a text typed
-// in. Prints each file name; returns the process's exit code. Runs inside a
-// session, so that the session's language is used.
+// folders" (1028) as it opens, "Add extensions" (1029) with a text typed
+// in, and each tab of "Advanced Scan Setting" (1038) of the system scan and
+// of the system monitoring, to <folder>/dialog1038-page<page>.png. Prints
+// each file name; returns the process's exit code. Runs inside a session, so
+// that the session's language is used.
 int SaveTargetDialogs(const QString& folder);

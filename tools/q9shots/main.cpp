@@ -22,7 +22,8 @@ void PrintUsage(FILE* to) {
         "DIR/<edition>-page<id>.png\n"
         "(DIR defaults to ./screenshots) and prints the file names. 'installed' (the default)\n"
         "uses the edition of the installation's secure profile. --dialogs renders the dialogs\n"
-        "that edit what a scan covers instead, to DIR/dialog<template>.png.\n",
+        "that edit what a scan covers instead, to DIR/dialog<template>.png (a dialog with\n"
+        "tabs: DIR/dialog<template>-page<page>.png, one per tab).\n",
         to);
 }
 

@@ -205,6 +205,156 @@
     </message>
 </context>
 <context>
+    <name>Dialog1035</name>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Execution files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>Macros</source>
+        <translation>Makros</translation>
+    </message>
+    <message>
+        <source>Script files</source>
+        <translation>Skriptdateien</translation>
+    </message>
+    <message>
+        <source>Customized</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>(ex) exe/dll/doc</source>
+        <translation>(z. B.) exe/dll/doc</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1036</name>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Depth of multi-compressed files:</source>
+        <translation>Tiefe mehrfach komprimierter Dateien:</translation>
+    </message>
+    <message>
+        <source>Executable compressed files(PKLITE, LZEXE, DIET)</source>
+        <translation>Ausführbare komprimierte Dateien (PKLITE, LZEXE, DIET)</translation>
+    </message>
+    <message>
+        <source>Incremental Scan</source>
+        <translation>Inkrementelle Prüfung</translation>
+    </message>
+    <message>
+        <source>All compressed file types</source>
+        <translation>Alle komprimierten Dateitypen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1037</name>
+    <message>
+        <source>Scan floppy disc boot sector</source>
+        <translation>Bootsektor von Disketten prüfen</translation>
+    </message>
+    <message>
+        <source>Scan floppy disc when closing the Windows </source>
+        <translation>Disketten beim Beenden von Windows prüfen </translation>
+    </message>
+    <message>
+        <source>Scan local drive reading</source>
+        <translation>Beim Lesen von lokalen Laufwerken prüfen</translation>
+    </message>
+    <message>
+        <source>Scan local drive writing</source>
+        <translation>Beim Schreiben auf lokale Laufwerke prüfen</translation>
+    </message>
+    <message>
+        <source>Scan network drive reading</source>
+        <translation>Beim Lesen von Netzlaufwerken prüfen</translation>
+    </message>
+    <message>
+        <source>Scan network drive writing</source>
+        <translation>Beim Schreiben auf Netzlaufwerke prüfen</translation>
+    </message>
+    <message>
+        <source>Display the warning messages when a virus is found (only for NT series)</source>
+        <translation>Warnmeldungen anzeigen, wenn ein Virus gefunden wird (nur NT-Serie)</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1038</name>
+    <message>
+        <source>Advanced Scan Setting</source>
+        <translation>Erweiterte Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1039</name>
+    <message>
+        <source>Scan after disabling the shared files/folders </source>
+        <translation>Nach dem Aufheben der Datei-/Ordnerfreigaben prüfen </translation>
+    </message>
+    <message>
+        <source>Scan after closing shells</source>
+        <translation>Nach dem Schließen der Shells prüfen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1040</name>
+    <message>
+        <source>Scan possible harmful programs</source>
+        <translation>Auf potenziell schädliche Programme prüfen</translation>
+    </message>
+    <message>
+        <source>Joke</source>
+        <translation>Scherzprogramme</translation>
+    </message>
+    <message>
+        <source>Programs that alarm or annoy the user as a prank</source>
+        <translation>Programme, die den Benutzer zum Spaß erschrecken oder stören</translation>
+    </message>
+    <message>
+        <source>Key Logger</source>
+        <translation>Keylogger</translation>
+    </message>
+    <message>
+        <source>Programs that record the keys typed</source>
+        <translation>Programme, die Tastatureingaben aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Adware</source>
+        <translation>Adware</translation>
+    </message>
+    <message>
+        <source>Programs that show advertisements</source>
+        <translation>Programme, die Werbung einblenden</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>Other programs that can be used to do harm</source>
+        <translation>Andere Programme, mit denen Schaden angerichtet werden kann</translation>
+    </message>
+</context>
+<context>
     <name>Dialog107</name>
     <message>
         <source>Alerts</source>
@@ -484,7 +634,7 @@
     </message>
     <message>
         <source>File Types to Scan</source>
-        <translation>Zu prüfende Dateitypen</translation>
+        <translation>Dateitypen</translation>
     </message>
     <message>
         <source>Scan Method</source>
