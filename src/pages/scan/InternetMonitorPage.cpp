@@ -1,6 +1,7 @@
 #include "pages/scan/InternetMonitorPage.h"
 
 #include "options/StoreKeys.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
 
 namespace {
@@ -8,7 +9,7 @@ namespace {
 ScanPageTraits InternetMonitorTraits() {
     ScanPageTraits traits;
     traits.section = CES_Internet;
-    traits.advancedVariant = 3;
+    traits.advancedVariant = kAdvancedFileTypesOnly;
     traits.enableFirst = 1006;
     traits.enableLast = 1068;
     return traits;

@@ -6,6 +6,7 @@
 #include "options/ScanBits.h"
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
 #include "session/RegistrationBinding.h"
 #include "session/SiblingLibs.h"
@@ -52,7 +53,7 @@ WordCodec AutoRecognitionCodec() {
 ScanPageTraits MessengerTraits() {
     ScanPageTraits traits;
     traits.section = CES_Messenger;
-    traits.advancedVariant = 0;
+    traits.advancedVariant = kAdvancedBasic;
     traits.executing = MonitorExecutingItems();
     traits.enableFirst = kFunctionBox;
     traits.enableLast = 1071;

@@ -6,6 +6,7 @@
 #include "controls/IconStatic.h"
 #include "framework/ImageList.h"
 #include "options/ScanBits.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
 #include "pages/RegisteredValues.h"
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr int kCompressedBox = 1064;
+constexpr int kAdvancedButton = 1066;
 constexpr int kScanIcon = 1052;
 constexpr int kRepairIcon = 1053;
 constexpr int kThirdIcon = 1057;
@@ -79,9 +81,24 @@ void CScanProfilePage::BindControls() {
         m_bind.Bit(function.box, {CES_Switch, function.switchKey}, SwitchBitOf(function.code),
                    BitSense::kCheckedWhenSet, BitShow::kWhenAvailable);
     }
+    HoldAdvancedShare();
     BindBlock(Block());
     if (m_traits.forcedOptions != 0) m_bind.Owns(Address(CEK_ScanOptions), m_traits.forcedOptions);
     BindMore();
+}
+
+void CScanProfilePage::HoldAdvancedShare() {
+    if (m_traits.advancedVariant == ScanPageTraits::kNoAdvanced) return;
+    const AdvancedScanShare share = AdvancedScanShareOf(m_traits.advancedVariant);
+    if (share.options != 0) m_bind.Hold(Address(CEK_ScanOptions), share.options, &m_held.options);
+    if (share.extra != 0) m_bind.Hold(Address(CEK_ScanExtra), share.extra, &m_held.extra);
+    if (share.archive) {
+        m_bind.Hold(Address(CEK_ScanArchive), kWholeWord, &m_held.depth);
+        m_bind.Hold(Address(CEK_ScanArchiveKinds), kWholeWord, &m_held.kinds);
+    }
+    if (share.extensions) m_bind.HoldText(Address(CEK_ScanExtensions), &m_held.extensions);
+    if (share.harmful != 0)
+        m_bind.Hold({CES_Macro, CEK_MacroOptions}, share.harmful, &m_held.harmful);
 }
 
 void CScanProfilePage::BindBlock(const ScanBlock& block) {
@@ -171,9 +188,36 @@ void CScanProfilePage::UpdateEnables() {
     EnableRange(m_traits.enableFirst, m_traits.enableLast, FunctionOn(), false);
 }
 
+void CScanProfilePage::EditAdvanced() {
+    const StoreAddress options = Address(CEK_ScanOptions);
+    const StoreAddress extra = Address(CEK_ScanExtra);
+    CAdvancedScanDlg dialog(m_traits.noIncremental, this);
+    // The dialog starts from the page's choices of file types and archives.
+    dialog.m_dwOptions = m_bind.CollectWord(options, m_held.options);
+    dialog.m_dwExtra = m_bind.CollectWord(extra, m_held.extra);
+    dialog.m_nDepth = static_cast<int32_t>(m_held.depth);
+    dialog.m_dwKinds = m_held.kinds;
+    dialog.m_strExtensions = m_held.extensions;
+    dialog.m_dwHarmful = m_held.harmful;
+    dialog.m_dwFlags = m_flags;
+    dialog.m_nVariant = m_traits.advancedVariant;
+    if (dialog.DoModal() != 1) return;
+    m_bind.ShowWord(options, dialog.m_dwOptions);
+    m_bind.ShowWord(extra, dialog.m_dwExtra);
+    m_held.depth = static_cast<uint32_t>(dialog.m_nDepth);
+    m_held.kinds = dialog.m_dwKinds;
+    m_held.extensions = dialog.m_strExtensions;
+    m_held.harmful = dialog.m_dwHarmful;
+    UpdateEnables();
+    if (dialog.m_bChanged != 0) MarkModified();
+}
+
 void CScanProfilePage::OnControlCommand(int id, ctl::Notification code) {
     if (id == kCompressedBox && m_compressed != nullptr && GetCheck(id) == kMiddleState)
         SetCheck(id, 0);
+    if (id == kAdvancedButton && code == ctl::Notification::kClicked &&
+        m_traits.advancedVariant != ScanPageTraits::kNoAdvanced)
+        EditAdvanced();
     for (const PageFunction& function : m_functions) {
         if (id == ctl::IdOf(function.box) && code == ctl::Notification::kClicked)
             m_needApply = 1;

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "options/RepairPolicy.h"
@@ -107,12 +108,29 @@ protected:
     // saves when covered.
     bool Works() const { return m_covered == 0 || SavesWhenCovered(); }
 
+    // The values of the profile that only the advanced dialog shows, kept
+    // between Load and Save.
+    struct HeldProfile {
+        uint32_t options = 0;
+        uint32_t extra = 0;
+        uint32_t depth = 0;
+        uint32_t kinds = 0;
+        std::string extensions;
+        uint32_t harmful = 0;
+    };
+    HeldProfile& Held() { return m_held; }
+
 private:
+    void HoldAdvancedShare();
     void BindBlock(const ScanBlock& block);
+    // "Advanced...": the dialog opens with the page's choices, and its OK
+    // brings the values back into the page.
+    void EditAdvanced();
     void FillCombos(const ScanBlock& block);
     void DisableUnregistrable();
 
     ScanPageTraits m_traits;
+    HeldProfile m_held;
     std::vector<PageFunction> m_functions;
     QCheckBox* m_compressed = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
 #include "pages/targets/ScanListDlg.h"
 
@@ -12,7 +13,7 @@ constexpr int kListButton = 1120;
 ScanPageTraits ScreenSaverTraits() {
     ScanPageTraits traits;
     traits.section = CES_ScreenSaver;
-    traits.advancedVariant = 0;
+    traits.advancedVariant = kAdvancedBasic;
     traits.enableFirst = 1033;
     traits.enableLast = 1071;
     return traits;

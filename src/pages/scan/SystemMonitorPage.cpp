@@ -7,6 +7,7 @@
 #include "options/ExtensionText.h"
 #include "options/ScanBits.h"
 #include "options/StoreKeys.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
 #include "pages/scan/MonitorQuestion.h"
 #include "pages/scan/ProfileCodecs.h"
@@ -40,7 +41,7 @@ constexpr uint32_t kBlockTexts[] = {603, 601, 600, 602};
 ScanPageTraits SystemMonitorTraits() {
     ScanPageTraits traits;
     traits.section = CES_SystemMonitor;
-    traits.advancedVariant = 2;
+    traits.advancedVariant = kAdvancedMonitor;
     traits.executing = MonitorExecutingItems();
     // The monitor's consumers expect bits 24 and 25; the scan setting mark
     // is not the monitor's.

@@ -3,13 +3,14 @@
 #include "options/ScanBits.h"
 #include "options/ScanProfile.h"
 #include "options/StoreKeys.h"
+#include "pages/scan/AdvancedScanDlg.h"
 
 namespace {
 
 ScanPageTraits SystemScanTraits() {
     ScanPageTraits traits;
     traits.section = CES_SystemScan;
-    traits.advancedVariant = 1;
+    traits.advancedVariant = kAdvancedSystemScan;
     return traits;
 }
 
@@ -32,6 +33,15 @@ ScanBlock CSystemScanPage::Block() {
     block.recompress = m_ui.recompressBox;
     block.executing = m_ui.executingCombo;
     return block;
+}
+
+int32_t CSystemScanPage::OnDefault() {
+    // The harmful kinds go back to their defaults only through the Default
+    // of the advanced dialog's tab.
+    const uint32_t harmful = Held().harmful;
+    CScanProfilePage::OnDefault();
+    Held().harmful = harmful;
+    return 1;
 }
 
 void CSystemScanPage::BindMore() {

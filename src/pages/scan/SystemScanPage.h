@@ -16,6 +16,8 @@ public:
 
     CSystemScanPage();
 
+    int32_t OnDefault() override;
+
 protected:
     ScanBlock Block() override;
     void BindMore() override;
