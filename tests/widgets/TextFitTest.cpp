@@ -1,12 +1,16 @@
 // Every text of every form is shown whole, in every language: a label, check
 // box, radio button or push button that keeps its text on one line is at
-// least as wide as the text (with the check indicator) needs, and a label
-// that wraps its text is tall enough for the lines it wraps into. Forms are
+// least as wide as the text (with the check indicator) needs, a combo is as
+// wide as each of its items needs, and a label that wraps its text is tall
+// enough for the lines it wraps into. Forms are
 // the built pages of the registry, the shells' templates and the dialogs
 // that pages open.
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -44,7 +48,16 @@ void NoteIfClipped(TextFitResult& result, const QWidget* control, const QString&
                              std::to_string(room));
 }
 
-// Measures the text of every label and text button of form.
+// The width a combo needs to show text whole, arrow and frame included.
+int ComboWidthFor(const QComboBox& combo, const QString& text) {
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    option.currentText = text;
+    const QSize content(combo.fontMetrics().horizontalAdvance(text), combo.fontMetrics().height());
+    return combo.style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, &combo).width();
+}
+
+// Measures the text of every label, text button and combo item of form.
 TextFitResult MeasureTextsOf(const QWidget& form) {
     TextFitResult result;
     for (const QWidget* control : form.findChildren<QWidget*>()) {
@@ -57,6 +70,13 @@ TextFitResult MeasureTextsOf(const QWidget& form) {
                 NoteIfClipped(result, label, label->text(), "width", label->sizeHint().width(),
                               label->width());
             }
+            continue;
+        }
+        if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
+            // Every item is shown whole in the closed combo.
+            for (int i = 0; i < combo->count(); ++i)
+                NoteIfClipped(result, combo, combo->itemText(i), "width",
+                              ComboWidthFor(*combo, combo->itemText(i)), combo->width());
             continue;
         }
         const bool textButton = qobject_cast<const QCheckBox*>(control) != nullptr ||
@@ -105,6 +125,18 @@ TEST(TextFitMeasure, FindsClippedTextsOfEachKind) {
                                             "narrowRadio", "narrowButton", "boxAsText"};
     for (size_t i = 0; i < names.size(); ++i)
         EXPECT_EQ(result.clipped[i].rfind(names[i] + " \"", 0), 0U) << result.clipped[i];
+}
+
+TEST(TextFitMeasure, FindsEveryComboItemThatDoesNotFit) {
+    QWidget form;
+    auto* combo = new QComboBox(&form);
+    combo->setObjectName("combo");
+    combo->addItems({"Short", "An item far too long for the width the combo was given"});
+    combo->setGeometry(0, 0, ComboWidthFor(*combo, "Short"), 24);
+    const TextFitResult result = MeasureTextsOf(form);
+    EXPECT_EQ(result.measured, 2);
+    ASSERT_EQ(result.clipped.size(), 1U);
+    EXPECT_NE(result.clipped[0].find("An item far too long"), std::string::npos);
 }
 
 TEST(TextFitMeasure, PassesTextsThatFit) {

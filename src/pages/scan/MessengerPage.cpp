@@ -42,6 +42,8 @@ constexpr MessengerRow kRows[] = {{1300, kExtraMsn},
                                   {1303, kExtraWindowsMessenger},
                                   {1308, kExtraDaum}};
 constexpr int kRowCount = 5;
+// Room in a row for its check box and margins, beside the text.
+constexpr int kCheckRoom = 48;
 
 // Radio 0 "Auto Recognition" is bit 0 set; radio 1 chooses by hand.
 WordCodec AutoRecognitionCodec() {
@@ -113,7 +115,7 @@ void CMessengerPage::AddRows() {
         m_installed[row] = Context().Siblings().GetIMInstall(row) != 0;
         // A messenger that is not installed cannot be chosen.
         m_ui.messengerList->topLevelItem(row)->setDisabled(!m_installed[row]);
-        widest = std::max(widest, m_ui.messengerList->ColumnWidthFor(text, 0));
+        widest = std::max(widest, m_ui.messengerList->ColumnWidthFor(text, kCheckRoom));
     }
     m_ui.messengerList->FitColumnTo(widest);
 }

@@ -205,6 +205,124 @@
     </message>
 </context>
 <context>
+    <name>Dialog1031</name>
+    <message>
+        <source>Startup Program Monitoring</source>
+        <translation>Autostart-Überwachung</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Items to monitor :</source>
+        <translation>Zu überwachen:</translation>
+    </message>
+    <message>
+        <source>Registries</source>
+        <translation>Registrierung</translation>
+    </message>
+    <message>
+        <source>Startup program folders</source>
+        <translation>Autostart-Ordner</translation>
+    </message>
+    <message>
+        <source>System files</source>
+        <translation>Systemdateien</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1032</name>
+    <message>
+        <source>Instant Messenger Monitoring</source>
+        <translation>Instant-Messenger-Überwachung</translation>
+    </message>
+    <message>
+        <source>Instant Messenger</source>
+        <translation>Instant Messenger</translation>
+    </message>
+    <message>
+        <source>Auto Recognition(Recommended)</source>
+        <translation>Automatisch (empfohlen)</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Recompress after repairing(ZIP file)</source>
+        <translation>Nach Reparatur neu packen (ZIP)</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Compressed files</source>
+        <translation>Komprimierte Dateien</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1035</name>
     <message>
         <source>All files</source>
@@ -543,6 +661,250 @@
     </message>
 </context>
 <context>
+    <name>Dialog111</name>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Close the Scan View window automatically if viruses are not detected</source>
+        <translation>Prüffenster ohne Virenfund automatisch schließen</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Compressed files</source>
+        <translation>Komprimierte Dateien</translation>
+    </message>
+    <message>
+        <source>Recompress after repairing(ZIP file)</source>
+        <translation>Nach Reparatur neu packen (ZIP)</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog114</name>
+    <message>
+        <source>Screensaver Scan</source>
+        <translation>Bildschirmschonerprüfung</translation>
+    </message>
+    <message>
+        <source>Set List to Scan</source>
+        <translation>Prüfliste festlegen</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Close the Scan View window automatically if viruses are not detected</source>
+        <translation>Prüffenster ohne Virenfund automatisch schließen</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Compressed files</source>
+        <translation>Komprimierte Dateien</translation>
+    </message>
+    <message>
+        <source>Recompress after repairing(ZIP file)</source>
+        <translation>Nach Reparatur neu packen (ZIP)</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog115</name>
+    <message>
+        <source>System Monitoring</source>
+        <translation>Systemüberwachung</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Infector detection</source>
+        <translation>Infektorerkennung</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+    <message>
+        <source>Blocking</source>
+        <translation>Blockieren</translation>
+    </message>
+    <message>
+        <source>Blocking methods :</source>
+        <translation>Blockiermethode:</translation>
+    </message>
+    <message>
+        <source>File types to block:  (ex) VBS/SCR/PIF</source>
+        <translation>Zu blockieren:  (z. B.) VBS/SCR/PIF</translation>
+    </message>
+    <message>
+        <source>Auto-Restart System Monitoring</source>
+        <translation>Überwachung neu starten</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervall:</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog117</name>
+    <message>
+        <source>Internet Monitoring</source>
+        <translation>Internetüberwachung</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+</context>
+<context>
     <name>StringTable</name>
     <message>
         <source>Easy Configuration</source>
@@ -726,11 +1088,11 @@
     </message>
     <message>
         <source>Process after user verification</source>
-        <translation>Nach Rückfrage beim Benutzer behandeln</translation>
+        <translation>Nach Rückfrage behandeln</translation>
     </message>
     <message>
         <source>Repair after a forced termination</source>
-        <translation>Nach erzwungenem Beenden reparieren</translation>
+        <translation>Nach Zwangsbeendigung reparieren</translation>
     </message>
     <message>
         <source>Restart the system after the repair</source>
