@@ -30,6 +30,9 @@ BenchInstallation::BenchInstallation() : m_savedModuleDir(g_szModuleDir) {
     Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, nullptr, Q9CFGE_MODE_PLAIN);
     Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, "", Q9CFGE_MODE_PLAIN);
     Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_Scan, 0x1);
+    // A restart interval the monitor page lets pass, as every installed
+    // store has: leaving the page must not stop at its check.
+    Q9CfgE_SetDWEx(CES_SystemMonitor, CEK_MonitorRestart, 60);
     g_szModuleDir = LibraryDirectory();
     g_Siblings.Release();
     g_Siblings.MarkPending(0, kAllSwitchBits);

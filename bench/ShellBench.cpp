@@ -106,6 +106,38 @@ void BM_PageSwitch(benchmark::State& state) {
 }
 BENCHMARK(BM_PageSwitch)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly(true);
 
+// One switch per iteration into a page of the scan group that the dialog has
+// not made yet: the page is made, loaded and shown. A fresh dialog is made
+// (untimed) whenever every page has been entered once.
+void BM_PageSwitchToANewScanPage(benchmark::State& state) {
+    const BenchInstallation installation;
+    const int scanPages[] = {1, 3, 5, 7, 24, 25};
+    std::unique_ptr<CConfigDlg> dialog;
+    size_t next = std::size(scanPages);
+    for (auto _ : state) {
+        if (next == std::size(scanPages)) {
+            state.PauseTiming();
+            if (dialog) dialog->reject();
+            dialog.reset();
+            ClearConfigWindow();
+            dialog = std::make_unique<CConfigDlg>(0, 0, nullptr);
+            dialog->Create();
+            dialog->show();
+            next = 0;
+            state.ResumeTiming();
+        }
+        dialog->Tree()->setCurrentItem(ItemOf(dialog->Tree(), scanPages[next++]));
+    }
+    dialog->reject();
+    dialog.reset();
+    ClearConfigWindow();
+}
+BENCHMARK(BM_PageSwitchToANewScanPage)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(60)
+    ->Repetitions(5)
+    ->ReportAggregatesOnly(true);
+
 // The peak resident memory, in kB, of the probe program doing one scene.
 double ProbePeakKb(const std::string& scene) {
     const std::string command = std::string(Q9_MEMORY_PROBE) + " " + scene;
