@@ -45,13 +45,6 @@ protected:
     static bool RowChecked(const CSettingsPage* page, int row) {
         return List(page)->IsRowChecked(row);
     }
-    static std::string CoverText(const CSettingsPage* page) {
-        for (const QLabel* label : page->findChildren<QLabel*>()) {
-            if (ctl::IdOf(label) == CSettingsPage::kCoverNoticeId && label->isVisibleTo(page))
-                return label->text().toStdString();
-        }
-        return {};
-    }
     static uint32_t Extra() { return Word(CES_Messenger, CEK_ScanExtra); }
     static void SetExtra(uint32_t word) { SetWord(CES_Messenger, CEK_ScanExtra, word); }
     static void SetSelect(uint32_t word) { SetWord(CES_Messenger, CEK_MessengerSelect, word); }

@@ -28,18 +28,7 @@ const std::string kNothingToMonitor =
     "Select the items to monitor. If you don't have items to monitor, disable \"Startup "
     "Program Monitoring\" option.";
 
-class MonitorPagesTest : public SwitchPageTest {
-protected:
-    // The text of the label that covers a page; frames without an id of
-    // their own share the notice's id, so the label is found by its kind.
-    static std::string CoverText(const CSettingsPage* page) {
-        for (const QLabel* label : page->findChildren<QLabel*>()) {
-            if (ctl::IdOf(label) == CSettingsPage::kCoverNoticeId && label->isVisibleTo(page))
-                return label->text().toStdString();
-        }
-        return {};
-    }
-};
+class MonitorPagesTest : public SwitchPageTest {};
 
 TEST_F(MonitorPagesTest, TheInternetPageHasFileTypesAndTwoRepairCombosOnly) {
     auto* page = MakePage<CInternetMonitorPage>(0);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <filesystem>
 
 #include "framework/DialogControls.h"
@@ -52,6 +53,16 @@ void SwitchPageTest::Click(CSettingsPage* page, int id) {
 
 bool SwitchPageTest::IsChecked(const CSettingsPage* page, int id) {
     return ctl::GetCheck(page, id) == 1;
+}
+
+std::string SwitchPageTest::CoverText(const CSettingsPage* page) {
+    // Frames without an id of their own share the notice's id: the notice
+    // is the label among them that is shown.
+    for (const QLabel* label : page->findChildren<QLabel*>()) {
+        if (ctl::IdOf(label) == CSettingsPage::kCoverNoticeId && label->isVisibleTo(page))
+            return label->text().toStdString();
+    }
+    return {};
 }
 
 void SwitchPageTest::Choose(CSettingsPage* page, int id, int index) {

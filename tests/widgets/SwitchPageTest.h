@@ -43,6 +43,9 @@ protected:
     // A user's click on a check box.
     static void Click(CSettingsPage* page, int id);
     static bool IsChecked(const CSettingsPage* page, int id);
+    // The text of the notice that covers a page; empty when it is not
+    // covered.
+    static std::string CoverText(const CSettingsPage* page);
     // A user's choice of item index in a combo, and what a combo shows.
     static void Choose(CSettingsPage* page, int id, int index);
     static int ChosenItem(const CSettingsPage* page, int id);

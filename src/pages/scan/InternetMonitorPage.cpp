@@ -17,19 +17,8 @@ ScanPageTraits InternetMonitorTraits() {
 
 }  // namespace
 
-CInternetMonitorPage::CInternetMonitorPage() : CFormPage(kTemplateId, InternetMonitorTraits()) {}
+CInternetMonitorPage::CInternetMonitorPage() : CScanFormPage(kTemplateId, InternetMonitorTraits()) {}
 
-ScanBlock CInternetMonitorPage::Block() {
-    ScanBlock block;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.executableFiles = m_ui.executableRadio;
-    block.allFiles = m_ui.allFilesRadio;
-    block.advanced = m_ui.advancedButton;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    return block;
-}
 
 std::vector<PageFunction> CInternetMonitorPage::Functions() {
     return {{m_ui.functionBox, SSCT_HTTP_PROXY, CEK_Switch_Scan}};

@@ -64,23 +64,8 @@ ScanPageTraits MessengerTraits() {
 
 }  // namespace
 
-CMessengerPage::CMessengerPage() : CFormPage(kTemplateId, MessengerTraits()) {}
+CMessengerPage::CMessengerPage() : CScanFormPage(kTemplateId, MessengerTraits()) {}
 
-ScanBlock CMessengerPage::Block() {
-    ScanBlock block;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.compressed = m_ui.compressedBox;
-    block.executableFiles = m_ui.executableRadio;
-    block.allFiles = m_ui.allFilesRadio;
-    block.advanced = m_ui.advancedButton;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    block.compressedFiles = m_ui.compressedCombo;
-    block.recompress = m_ui.recompressBox;
-    block.executing = m_ui.executingCombo;
-    return block;
-}
 
 std::vector<PageFunction> CMessengerPage::Functions() {
     return {{m_ui.functionBox, SSCT_MESSENGER, CEK_Switch_Scan}};

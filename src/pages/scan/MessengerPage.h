@@ -6,11 +6,10 @@
 
 #include <cstdint>
 
-#include "pages/FormPage.h"
 #include "pages/scan/ScanProfilePage.h"
 #include "ui_Dialog1032.h"
 
-class CMessengerPage : public CFormPage<Ui::Dialog1032, CScanProfilePage> {
+class CMessengerPage : public CScanFormPage<Ui::Dialog1032> {
 public:
     static constexpr int kTemplateId = 1032;
 
@@ -19,7 +18,6 @@ public:
     int32_t OnDefault() override;
 
 protected:
-    ScanBlock Block() override;
     std::vector<PageFunction> Functions() override;
     void BindMore() override;
     void PrepareControls() override;

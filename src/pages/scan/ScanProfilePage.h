@@ -15,6 +15,7 @@
 
 #include "options/RepairPolicy.h"
 #include "pages/BoundPage.h"
+#include "pages/FormPage.h"
 
 class QComboBox;
 
@@ -133,4 +134,35 @@ private:
     HeldProfile m_held;
     std::vector<PageFunction> m_functions;
     QCheckBox* m_compressed = nullptr;
+};
+
+// A member made from a form whose controls carry the family's names
+// (closeViewBox, autoRepairBox, compressedBox, executableRadio,
+// allFilesRadio, advancedButton, backupBox, repairableCombo,
+// unrepairableCombo, compressedCombo, recompressBox, executingCombo): the
+// block is what the form has of them.
+template <typename Form>
+class CScanFormPage : public CFormPage<Form, CScanProfilePage> {
+protected:
+    using CFormPage<Form, CScanProfilePage>::CFormPage;
+
+    ScanBlock Block() override {
+        Form& ui = this->m_ui;
+        ScanBlock block;
+        if constexpr (requires { ui.closeViewBox; }) block.closeView = ui.closeViewBox;
+        if constexpr (requires { ui.autoRepairBox; }) block.autoRepair = ui.autoRepairBox;
+        if constexpr (requires { ui.compressedBox; }) block.compressed = ui.compressedBox;
+        if constexpr (requires { ui.executableRadio; }) {
+            block.executableFiles = ui.executableRadio;
+            block.allFiles = ui.allFilesRadio;
+        }
+        if constexpr (requires { ui.advancedButton; }) block.advanced = ui.advancedButton;
+        if constexpr (requires { ui.backupBox; }) block.backup = ui.backupBox;
+        if constexpr (requires { ui.repairableCombo; }) block.repairable = ui.repairableCombo;
+        if constexpr (requires { ui.unrepairableCombo; }) block.unrepairable = ui.unrepairableCombo;
+        if constexpr (requires { ui.compressedCombo; }) block.compressedFiles = ui.compressedCombo;
+        if constexpr (requires { ui.recompressBox; }) block.recompress = ui.recompressBox;
+        if constexpr (requires { ui.executingCombo; }) block.executing = ui.executingCombo;
+        return block;
+    }
 };

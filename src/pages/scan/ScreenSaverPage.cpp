@@ -28,24 +28,8 @@ std::vector<Target> StoredTargets() {
 
 }  // namespace
 
-CScreenSaverPage::CScreenSaverPage() : CFormPage(kTemplateId, ScreenSaverTraits()) {}
+CScreenSaverPage::CScreenSaverPage() : CScanFormPage(kTemplateId, ScreenSaverTraits()) {}
 
-ScanBlock CScreenSaverPage::Block() {
-    ScanBlock block;
-    block.closeView = m_ui.closeViewBox;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.compressed = m_ui.compressedBox;
-    block.executableFiles = m_ui.executableRadio;
-    block.allFiles = m_ui.allFilesRadio;
-    block.advanced = m_ui.advancedButton;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    block.compressedFiles = m_ui.compressedCombo;
-    block.recompress = m_ui.recompressBox;
-    block.executing = m_ui.executingCombo;
-    return block;
-}
 
 std::vector<PageFunction> CScreenSaverPage::Functions() {
     return {{m_ui.functionBox, SSCT_SCRSAVER_SCAN, CEK_Switch_Scan}};

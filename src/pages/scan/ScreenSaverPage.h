@@ -6,12 +6,11 @@
 
 #include <vector>
 
-#include "pages/FormPage.h"
 #include "pages/scan/ScanProfilePage.h"
 #include "targets/TargetList.h"
 #include "ui_Dialog114.h"
 
-class CScreenSaverPage : public CFormPage<Ui::Dialog114, CScanProfilePage> {
+class CScreenSaverPage : public CScanFormPage<Ui::Dialog114> {
 public:
     static constexpr int kTemplateId = 114;
 
@@ -22,7 +21,6 @@ public:
     const std::vector<Target>& Targets() const { return m_targets; }
 
 protected:
-    ScanBlock Block() override;
     std::vector<PageFunction> Functions() override;
     void BindMore() override;
     void SaveRelated() override;

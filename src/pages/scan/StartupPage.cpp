@@ -28,17 +28,8 @@ ScanPageTraits StartupTraits() {
 
 }  // namespace
 
-CStartupPage::CStartupPage() : CFormPage(kTemplateId, StartupTraits()) {}
+CStartupPage::CStartupPage() : CScanFormPage(kTemplateId, StartupTraits()) {}
 
-ScanBlock CStartupPage::Block() {
-    ScanBlock block;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    block.executing = m_ui.executingCombo;
-    return block;
-}
 
 std::vector<PageFunction> CStartupPage::Functions() {
     return {{m_ui.functionBox, SSCT_START_PROCESS, CEK_Switch_Scan}};

@@ -6,11 +6,10 @@
 // saves and applies even when it covers itself because the system cannot
 // run the function.
 
-#include "pages/FormPage.h"
 #include "pages/scan/ScanProfilePage.h"
 #include "ui_Dialog1031.h"
 
-class CStartupPage : public CFormPage<Ui::Dialog1031, CScanProfilePage> {
+class CStartupPage : public CScanFormPage<Ui::Dialog1031> {
 public:
     static constexpr int kTemplateId = 1031;
 
@@ -19,7 +18,6 @@ public:
     int32_t OnDefault() override;
 
 protected:
-    ScanBlock Block() override;
     std::vector<PageFunction> Functions() override;
     void BindMore() override;
     void PrepareControls() override;

@@ -57,20 +57,8 @@ bool IsDigits(const std::string& text) {
 
 }  // namespace
 
-CSystemMonitorPage::CSystemMonitorPage() : CFormPage(kTemplateId, SystemMonitorTraits()) {}
+CSystemMonitorPage::CSystemMonitorPage() : CScanFormPage(kTemplateId, SystemMonitorTraits()) {}
 
-ScanBlock CSystemMonitorPage::Block() {
-    ScanBlock block;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.executableFiles = m_ui.executableRadio;
-    block.allFiles = m_ui.allFilesRadio;
-    block.advanced = m_ui.advancedButton;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    block.executing = m_ui.executingCombo;
-    return block;
-}
 
 std::vector<PageFunction> CSystemMonitorPage::Functions() {
     // Apply switches the restart before the monitor itself.

@@ -5,11 +5,10 @@
 // and the monitor's restart by itself some minutes after the user closed
 // it, a function of its own.
 
-#include "pages/FormPage.h"
 #include "pages/scan/ScanProfilePage.h"
 #include "ui_Dialog115.h"
 
-class CSystemMonitorPage : public CFormPage<Ui::Dialog115, CScanProfilePage> {
+class CSystemMonitorPage : public CScanFormPage<Ui::Dialog115> {
 public:
     static constexpr int kTemplateId = 115;
 
@@ -18,7 +17,6 @@ public:
     int32_t OnDefault() override;
 
 protected:
-    ScanBlock Block() override;
     std::vector<PageFunction> Functions() override;
     void BindMore() override;
     void PrepareControls() override;

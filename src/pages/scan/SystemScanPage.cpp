@@ -16,24 +16,8 @@ ScanPageTraits SystemScanTraits() {
 
 }  // namespace
 
-CSystemScanPage::CSystemScanPage() : CFormPage(kTemplateId, SystemScanTraits()) {}
+CSystemScanPage::CSystemScanPage() : CScanFormPage(kTemplateId, SystemScanTraits()) {}
 
-ScanBlock CSystemScanPage::Block() {
-    ScanBlock block;
-    block.closeView = m_ui.closeViewBox;
-    block.autoRepair = m_ui.autoRepairBox;
-    block.compressed = m_ui.compressedBox;
-    block.executableFiles = m_ui.executableRadio;
-    block.allFiles = m_ui.allFilesRadio;
-    block.advanced = m_ui.advancedButton;
-    block.backup = m_ui.backupBox;
-    block.repairable = m_ui.repairableCombo;
-    block.unrepairable = m_ui.unrepairableCombo;
-    block.compressedFiles = m_ui.compressedCombo;
-    block.recompress = m_ui.recompressBox;
-    block.executing = m_ui.executingCombo;
-    return block;
-}
 
 int32_t CSystemScanPage::OnDefault() {
     // The harmful kinds go back to their defaults only through the Default

@@ -6,11 +6,10 @@
 // harmful programs, kept for the whole product, are edited through this
 // page's advanced dialog.
 
-#include "pages/FormPage.h"
 #include "pages/scan/ScanProfilePage.h"
 #include "ui_Dialog111.h"
 
-class CSystemScanPage : public CFormPage<Ui::Dialog111, CScanProfilePage> {
+class CSystemScanPage : public CScanFormPage<Ui::Dialog111> {
 public:
     static constexpr int kTemplateId = 111;
 
@@ -19,7 +18,6 @@ public:
     int32_t OnDefault() override;
 
 protected:
-    ScanBlock Block() override;
     void BindMore() override;
     void SaveRelated() override;
 };
