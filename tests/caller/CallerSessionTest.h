@@ -9,6 +9,9 @@
 
 #include <initializer_list>
 #include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "CallerInstallation.h"
 #include "Q9CfgE.h"
@@ -27,6 +30,19 @@ protected:
         ASSERT_NE(doModal, nullptr);
     }
     void TearDown() override { Q9CfgE_SetStyleEx(257, "", 0); }
+
+    // The journal lines of the registration calls that change something.
+    std::vector<std::string> RegistrationChanges() const {
+        std::vector<std::string> changes;
+        std::istringstream text(caller->install.Read("Q9SSCtrl.journal"));
+        for (std::string line; std::getline(text, line);) {
+            if (line.rfind("Q9SSCtrl_IsRegistered", 0) != 0 &&
+                line.rfind("Q9SSCtrl_CanBeRegister", 0) != 0 &&
+                line.rfind("Q9SSCtrl_HasEnoughPrivilege", 0) != 0)
+                changes.push_back(line);
+        }
+        return changes;
+    }
 
     std::unique_ptr<CallerInstallation> caller;
     DoModalEntry* doModal = nullptr;

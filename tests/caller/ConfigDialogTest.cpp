@@ -36,18 +36,6 @@ protected:
         for (std::string line; std::getline(text, line);) lines.push_back(line);
         return lines;
     }
-    // The journal lines of calls that change something.
-    std::vector<std::string> Changes() const {
-        std::vector<std::string> changes;
-        for (const std::string& line : Journal()) {
-            if (line.rfind("Q9SSCtrl_Register", 0) == 0 ||
-                line.rfind("Q9SSCtrl_Unregister", 0) == 0 ||
-                line.rfind("Q9SSCtrl_SetCfgChanged", 0) == 0) {
-                changes.push_back(line);
-            }
-        }
-        return changes;
-    }
 
     // Opens mode 0 on page 0, turns the system monitor on and presses the
     // button; returns DoModal's result.
@@ -74,7 +62,7 @@ TEST_F(ConfigDialogTest, OkRegistersTheFunctionThenSignalsOnce) {
               kSystemMonitorBit);
     // The screen saver scan is brought into line at every apply, touched or
     // not; the signal comes once, last.
-    const std::vector<std::string> changes = Changes();
+    const std::vector<std::string> changes = RegistrationChanges();
     ASSERT_EQ(changes.size(), 3u);
     EXPECT_EQ(changes[0].rfind("Q9SSCtrl_Register\t32\t", 0), 0u) << changes[0];
     EXPECT_EQ(changes[1].rfind("Q9SSCtrl_Unregister\t16\t", 0), 0u) << changes[1];
@@ -87,7 +75,7 @@ TEST_F(ConfigDialogTest, CancelWritesNothingAndCallsNothing) {
     EXPECT_EQ(TurnOnSystemMonitorAndPress(2, &page), 2);
     EXPECT_EQ(Q9CfgE_GetDWEx(kSwitchSection, kScanSwitchKey) & kSystemMonitorBit, 0u);
     EXPECT_EQ(caller->install.Read("Q9Cfg.dat"), before);
-    EXPECT_TRUE(Changes().empty());
+    EXPECT_TRUE(RegistrationChanges().empty());
 }
 
 TEST_F(ConfigDialogTest, AStartPageOutsideTheTreeComesBackAsMinusOne) {
@@ -96,7 +84,7 @@ TEST_F(ConfigDialogTest, AStartPageOutsideTheTreeComesBackAsMinusOne) {
     int32_t page = 6;
     EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, &page, nullptr, nullptr), 1);
     EXPECT_EQ(page, -1);
-    EXPECT_EQ(Changes(), std::vector<std::string>{"Q9SSCtrl_SetCfgChanged\t32\t-\t1"});
+    EXPECT_EQ(RegistrationChanges(), std::vector<std::string>{"Q9SSCtrl_SetCfgChanged\t32\t-\t1"});
 }
 
 TEST_F(ConfigDialogTest, SinglePageModeShowsThePageAlone) {

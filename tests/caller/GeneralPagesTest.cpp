@@ -32,18 +32,6 @@ class GeneralPagesTest : public CallerSessionTest {
 protected:
     void SetUp() override { StartCaller({"Q9SSCtrl"}); }
 
-    // The journal lines of calls that change something.
-    std::vector<std::string> Changes() const {
-        std::vector<std::string> changes;
-        std::istringstream text(caller->install.Read("Q9SSCtrl.journal"));
-        for (std::string line; std::getline(text, line);) {
-            if (line.rfind("Q9SSCtrl_IsRegistered", 0) != 0 &&
-                line.rfind("Q9SSCtrl_CanBeRegister", 0) != 0 &&
-                line.rfind("Q9SSCtrl_HasEnoughPrivilege", 0) != 0)
-                changes.push_back(line);
-        }
-        return changes;
-    }
 
     static std::string StoredPassword() {
         uint32_t length = 0;
@@ -101,7 +89,7 @@ TEST_F(GeneralPagesTest, TurningTheTrayIconOffStopsItThenSignalsOnce) {
     EXPECT_EQ(page, kOtherConfigPage);
     const std::vector<std::string> expected = {"Q9SSCtrl_Unregister\t112\t5000 2\t1",
                                                "Q9SSCtrl_SetCfgChanged\t32\t-\t1"};
-    EXPECT_EQ(Changes(), expected);
+    EXPECT_EQ(RegistrationChanges(), expected);
     EXPECT_EQ(Q9CfgE_GetDWEx(14, 46) & 0x100000u, 0u);
     EXPECT_EQ(Q9CfgE_GetDWEx(14, 47), 0xFFFFFFFFu);
 }

@@ -52,18 +52,6 @@ void Click(QDialog* dialog, int id) {
 class ScanPagesTest : public CallerSessionTest {
 protected:
     void SetUp() override { StartCaller({"Q9SSCtrl"}); }
-
-    std::vector<std::string> Changes() const {
-        std::vector<std::string> changes;
-        std::istringstream text(caller->install.Read("Q9SSCtrl.journal"));
-        for (std::string line; std::getline(text, line);) {
-            if (line.rfind("Q9SSCtrl_IsRegistered", 0) != 0 &&
-                line.rfind("Q9SSCtrl_CanBeRegister", 0) != 0 &&
-                line.rfind("Q9SSCtrl_HasEnoughPrivilege", 0) != 0)
-                changes.push_back(line);
-        }
-        return changes;
-    }
 };
 
 TEST_F(ScanPagesTest, FileTypesChangedInTheAdvancedDialogReachSectionsFourAndFiveOnly) {
@@ -118,7 +106,7 @@ TEST_F(ScanPagesTest, TurningSystemMonitoringOffStopsBothFunctionsInTheirOrder) 
     const std::vector<std::string> expected = {"Q9SSCtrl_Unregister\t128\t5000 2\t1",
                                                "Q9SSCtrl_Unregister\t32\t5000 2\t1",
                                                "Q9SSCtrl_SetCfgChanged\t32\t-\t1"};
-    EXPECT_EQ(Changes(), expected);
+    EXPECT_EQ(RegistrationChanges(), expected);
     EXPECT_EQ(Q9CfgE_GetDWEx(14, 42) & 0x1u, 0u);
     EXPECT_EQ(Q9CfgE_GetDWEx(14, 46) & 0x200000u, 0u);
 }
