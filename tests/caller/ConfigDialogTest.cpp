@@ -30,13 +30,6 @@ protected:
         ASSERT_EQ(Q9CfgE_SetDWEx(kSwitchSection, kScanSwitchKey, 0), 1);
     }
 
-    std::vector<std::string> Journal() const {
-        std::vector<std::string> lines;
-        std::istringstream text(caller->install.Read("Q9SSCtrl.journal"));
-        for (std::string line; std::getline(text, line);) lines.push_back(line);
-        return lines;
-    }
-
     // Opens mode 0 on page 0, turns the system monitor on and presses the
     // button; returns DoModal's result.
     int32_t TurnOnSystemMonitorAndPress(int button, int32_t* page) {
