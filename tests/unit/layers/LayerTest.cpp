@@ -32,9 +32,9 @@ const std::map<std::string, Layer> kLayers = {
     {"platform", {0, QtUse::kNone}},     {"beacon", {1, QtUse::kWidgets}},
     {"text", {1, QtUse::kCore}},         {"options", {2, QtUse::kCore}},
     {"portblock", {2, QtUse::kCore}},    {"session", {3, QtUse::kCore}},
-    {"targets", {4, QtUse::kCore}},      {"framework", {5, QtUse::kWidgets}},
-    {"controls", {6, QtUse::kWidgets}},  {"pages", {7, QtUse::kWidgets}},
-    {"shell", {8, QtUse::kWidgets}},
+    {"targets", {4, QtUse::kCore}},      {"schedule", {5, QtUse::kCore}},
+    {"framework", {6, QtUse::kWidgets}}, {"controls", {7, QtUse::kWidgets}},
+    {"pages", {8, QtUse::kWidgets}},     {"shell", {9, QtUse::kWidgets}},
 };
 
 // Data only: forms, pictures, translations.
