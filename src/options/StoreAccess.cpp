@@ -75,6 +75,10 @@ std::vector<ObjectRecord> ReadObjectList(uint32_t section) {
 
 void WriteObjectList(uint32_t section, const std::vector<ObjectRecord>& records) {
     Q9CfgE_SetStrEx(section, kObjectListKey, nullptr);
+    WriteObjectRecords(section, records);
+}
+
+void WriteObjectRecords(uint32_t section, const std::vector<ObjectRecord>& records) {
     const std::size_t count = std::min<std::size_t>(
         records.size(), std::size_t{std::numeric_limits<uint16_t>::max()} + 1);
     for (std::size_t index = 0; index < count; ++index) {

@@ -64,3 +64,6 @@ std::vector<ObjectRecord> ReadObjectList(uint32_t section);
 // with indexes from 0. No records leave an empty list. The index is 16 bits,
 // so records beyond the 65536th are not written.
 void WriteObjectList(uint32_t section, const std::vector<ObjectRecord>& records);
+// Writes the records at indexes from 0 without clearing the list first: for
+// a schedule section, whose clearing removes the whole entry.
+void WriteObjectRecords(uint32_t section, const std::vector<ObjectRecord>& records);

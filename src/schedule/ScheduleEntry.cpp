@@ -1,0 +1,141 @@
+#include "schedule/ScheduleEntry.h"
+
+#include <Q9CfgE.h>
+
+#include <QDateTime>
+#include <cstdio>
+
+#include "options/StoreAccess.h"
+#include "options/StoreKeys.h"
+#include "options/StoreValues.h"
+
+namespace {
+
+uint32_t SectionOf(int32_t number) { return ScheduleSection(static_cast<uint32_t>(number)); }
+
+std::vector<Target> TargetsOf(uint32_t section) {
+    std::vector<Target> targets;
+    for (const ObjectRecord& record : ReadObjectList(section))
+        targets.push_back({record.kind, record.text});
+    return targets;
+}
+
+uint16_t Field(uint32_t section, uint32_t key) {
+    return static_cast<uint16_t>(Q9CfgE_GetDWEx(section, key));
+}
+
+bool HoldsEntry(uint32_t section) { return !ReadStoreText(section, CEK_SchedCurDir).empty(); }
+
+}  // namespace
+
+ScheduleTime LocalTimeNow() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    ScheduleTime result;
+    result.wYear = static_cast<uint16_t>(date.year());
+    result.wMonth = static_cast<uint16_t>(date.month());
+    result.wDayOfWeek = static_cast<uint16_t>(date.dayOfWeek() % 7);
+    result.wDay = static_cast<uint16_t>(date.day());
+    result.wHour = static_cast<uint16_t>(time.hour());
+    result.wMinute = static_cast<uint16_t>(time.minute());
+    result.wSecond = static_cast<uint16_t>(time.second());
+    result.wMilliseconds = static_cast<uint16_t>(time.msec());
+    return result;
+}
+
+std::string ScheduleStoreCommandLine(uint32_t section) {
+    char text[64];
+    std::snprintf(text, sizeof text, "\"%%Q9%%/q9medic\" /o:%x", section);
+    return text;
+}
+
+ScheduleEntry::ScheduleEntry() : m_time(LocalTimeNow()) {
+    m_targets = TargetsOf(CES_ScheduleDefault);
+    m_dwScanOptions = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanOptions);
+    m_dwArchive = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanArchive);
+    m_dwArchiveKinds = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanArchiveKinds);
+    m_strExtensions = ReadStoreText(CES_ScheduleDefault, CEK_ScanExtensions);
+    m_dwScanPolicy = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanPolicy);
+}
+
+ScheduleEntry::~ScheduleEntry() = default;
+
+void ScheduleEntry::CopyFrom(const ScheduleEntry* other) {
+    if (other == nullptr || other == this) return;
+    m_bOn = other->m_bOn;
+    m_nStyle = other->m_nStyle;
+    m_time = other->m_time;
+    m_targets = other->m_targets;
+    m_dwScanOptions = other->m_dwScanOptions;
+    m_dwArchive = other->m_dwArchive;
+    m_dwArchiveKinds = other->m_dwArchiveKinds;
+    m_strExtensions = other->m_strExtensions;
+    m_dwScanPolicy = other->m_dwScanPolicy;
+    m_strUser = other->m_strUser;
+    m_strPassword = other->m_strPassword;
+    m_strNetUser = other->m_strNetUser;
+    m_strNetPassword = other->m_strNetPassword;
+}
+
+void ScheduleEntry::LoadFromStore(int32_t number) {
+    const uint32_t section = SectionOf(number);
+    m_bOn = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedOn));
+    m_nStyle = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedStyle));
+    m_time.wYear = Field(section, CEK_SchedYear);
+    m_time.wMonth = Field(section, CEK_SchedMonth);
+    m_time.wDay = Field(section, CEK_SchedDay);
+    m_time.wDayOfWeek = Field(section, CEK_SchedDayOfWeek);
+    m_time.wHour = Field(section, CEK_SchedHour);
+    m_time.wMinute = Field(section, CEK_SchedMinute);
+    m_targets = TargetsOf(section);
+    m_dwScanOptions = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
+    m_dwArchive = Q9CfgE_GetDWEx(section, CEK_ScanArchive);
+    m_dwArchiveKinds = Q9CfgE_GetDWEx(section, CEK_ScanArchiveKinds);
+    m_strExtensions = ReadStoreText(section, CEK_ScanExtensions);
+    m_dwScanPolicy = Q9CfgE_GetDWEx(section, CEK_ScanPolicy);
+    m_strNetUser = ReadEncText(section, CEK_ScheduleUser);
+    m_strNetPassword = ReadEncText(section, CEK_SchedulePassword);
+}
+
+int32_t ScheduleEntry::SaveToStore(int32_t number, int32_t on, uint32_t /*pageFlags*/) const {
+    const uint32_t section = SectionOf(number);
+    Q9CfgE_SetDWEx(section, CEK_ScanOptions, m_dwScanOptions);
+    Q9CfgE_SetDWEx(section, CEK_ScanArchive, m_dwArchive);
+    Q9CfgE_SetDWEx(section, CEK_ScanArchiveKinds, m_dwArchiveKinds);
+    Q9CfgE_SetStrEx(section, CEK_ScanExtensions, m_strExtensions.c_str());
+    Q9CfgE_SetDWEx(section, CEK_ScanPolicy, m_dwScanPolicy);
+    Q9CfgE_SetDWEx(section, CEK_SchedOn, static_cast<uint32_t>(on));
+    Q9CfgE_SetDWEx(section, CEK_SchedStyle, static_cast<uint32_t>(m_nStyle));
+    Q9CfgE_SetDWEx(section, CEK_SchedYear, m_time.wYear);
+    Q9CfgE_SetDWEx(section, CEK_SchedMonth, m_time.wMonth);
+    Q9CfgE_SetDWEx(section, CEK_SchedDay, m_time.wDay);
+    Q9CfgE_SetDWEx(section, CEK_SchedDayOfWeek, m_time.wDayOfWeek);
+    Q9CfgE_SetDWEx(section, CEK_SchedHour, m_time.wHour);
+    Q9CfgE_SetDWEx(section, CEK_SchedMinute, m_time.wMinute);
+    Q9CfgE_SetStrEx(section, CEK_SchedCmdLine, ScheduleStoreCommandLine(section).c_str());
+    Q9CfgE_SetStrEx(section, CEK_SchedCurDir, kScheduleStoreDirectory);
+    std::vector<ObjectRecord> records;
+    for (const Target& target : m_targets) records.push_back({target.kind, target.text});
+    // The wipe before the save cleared the list: clearing it here would
+    // remove the entry just written.
+    WriteObjectRecords(section, records);
+    WriteEncText({section, CEK_ScheduleUser}, m_strNetUser);
+    WriteEncText({section, CEK_SchedulePassword}, m_strNetPassword);
+    return 1;
+}
+
+void WipeStoreEntries() {
+    for (uint32_t index = 0; HoldsEntry(ScheduleSection(index)); ++index)
+        Q9CfgE_SetStrEx(ScheduleSection(index), kObjectListKey, nullptr);
+}
+
+std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries() {
+    std::vector<std::unique_ptr<ScheduleEntry>> entries;
+    for (int32_t number = 0; HoldsEntry(SectionOf(number)); ++number) {
+        auto entry = std::make_unique<ScheduleEntry>();
+        entry->LoadFromStore(number);
+        entries.push_back(std::move(entry));
+    }
+    return entries;
+}

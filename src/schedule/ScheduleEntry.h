@@ -1,0 +1,96 @@
+#pragma once
+
+// One scheduled scan. The scheduler service and the scanner never see this
+// object, only what it leaves in its two homes: the store section
+// CES_Schedule | n (the scan's options, targets, network account and a copy
+// of the timing) and, for the scheduler, a key of the registry stand-in.
+// The number n is nothing but the entry's row in the schedule list when the
+// list is saved; a save wipes every entry and writes the list anew.
+//
+// This file holds the record and its store home.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "targets/TargetList.h"
+
+// The fields of a point in time the way the scheduler keeps them.
+struct ScheduleTime {
+    uint16_t wYear = 0;
+    uint16_t wMonth = 0;
+    uint16_t wDayOfWeek = 0;  // 0 is Sunday
+    uint16_t wDay = 0;
+    uint16_t wHour = 0;
+    uint16_t wMinute = 0;
+    uint16_t wSecond = 0;
+    uint16_t wMilliseconds = 0;
+
+    bool operator==(const ScheduleTime&) const = default;
+};
+
+// The local time now.
+ScheduleTime LocalTimeNow();
+
+// How often a job runs; the value is what is stored.
+enum ScheduleStyle : int32_t {
+    kScheduleEveryDay = 1,    // hour, minute
+    kScheduleEveryWeek = 2,   // day of week, hour, minute
+    kScheduleEveryMonth = 3,  // day, hour, minute
+    kScheduleOnce = 4,        // year, month, day, day of week, hour, minute
+    kScheduleUnnamed = 5,     // no part of the user interface makes it
+    kScheduleAtStartup = 6,   // whenever the system starts
+};
+
+// The scanner's command line in a schedule section: the installation
+// directory stays the variable %Q9% for the scanner to expand, and the
+// section number follows /o: in hexadecimal. The program has no extension
+// on this platform.
+std::string ScheduleStoreCommandLine(uint32_t section);
+// The scanner's working folder in a schedule section; a non-empty one marks
+// the section as holding an entry.
+constexpr const char* kScheduleStoreDirectory = "%Q9%";
+
+class ScheduleEntry {
+public:
+    // A new entry: on, every week, the time now, and the targets and scan
+    // options of the template section CES_ScheduleDefault; no accounts.
+    ScheduleEntry();
+    virtual ~ScheduleEntry();
+    ScheduleEntry(const ScheduleEntry&) = delete;
+    ScheduleEntry& operator=(const ScheduleEntry&) = delete;
+
+    // Copies every field of other; null does nothing.
+    void CopyFrom(const ScheduleEntry* other);
+
+    // Reads the entry of section CES_Schedule | number: timing, targets,
+    // scan options and the network account. The run-as account is not kept
+    // in the store, so it stays empty on this path.
+    void LoadFromStore(int32_t number);
+    // Writes the entry into section CES_Schedule | number with on as its
+    // tick (not m_bOn). pageFlags is accepted and not used. Returns 1.
+    int32_t SaveToStore(int32_t number, int32_t on, uint32_t pageFlags) const;
+
+    int32_t m_bOn = 1;
+    int32_t m_nStyle = kScheduleEveryWeek;
+    ScheduleTime m_time;
+    std::vector<Target> m_targets;
+    uint32_t m_dwScanOptions = 0;
+    uint32_t m_dwArchive = 0;
+    uint32_t m_dwArchiveKinds = 0;
+    std::string m_strExtensions;
+    std::string m_strUser;
+    std::string m_strPassword;
+    std::string m_strNetUser;
+    std::string m_strNetPassword;
+    uint32_t m_dwScanPolicy = 0;
+};
+
+// Clears the schedule sections from 0 upward, up to the first whose working
+// folder is empty.
+void WipeStoreEntries();
+
+// The entries of the store, from section 0 up to the first whose working
+// folder is empty.
+std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries();
