@@ -83,10 +83,11 @@ bool SyncDirectory(const std::string& directory) {
 }  // namespace
 
 bool WriteFileAtomically(const std::string& path, std::string_view bytes, int* errorNumber,
-                         mode_t newFileMode) {
+                         mode_t newFileMode, ExistingMode existing) {
     struct stat old {};
     const bool hadOld = stat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode);
-    const mode_t mode = hadOld ? (old.st_mode & 07777) : newFileMode;
+    const mode_t mode =
+        hadOld && existing == ExistingMode::kKeep ? (old.st_mode & 07777) : newFileMode;
 
     const std::string directory = DirectoryPart(path);
     std::string temporary = directory + "/." + NamePart(path) + ".XXXXXX";

@@ -16,11 +16,19 @@ namespace platform {
 // Mode of a file that did not exist before.
 constexpr mode_t kDefaultFileMode = 0644;
 
+// Mode of a file that holds secrets (the store, the registry hives):
+// readable and writable by its owner only.
+constexpr mode_t kPrivateFileMode = 0600;
+
+// What happens to the permission bits of a file that exists already.
+enum class ExistingMode { kKeep, kReplace };
+
 // Mode of directories made by CreateDirectories.
 constexpr mode_t kDefaultDirectoryMode = 0755;
 
 // Replaces the file at path with bytes. An existing file keeps its permission
-// bits; a new one gets newFileMode exactly (the umask is not applied).
+// bits unless existing is kReplace; a new one, or one replaced so, gets
+// newFileMode exactly (the umask is not applied).
 //
 // The new file's modification time is made later than the old file's, even
 // when both writes fall into the same clock tick, so that a cache keyed by
@@ -34,7 +42,8 @@ constexpr mode_t kDefaultDirectoryMode = 0755;
 //
 // A symbolic link at path is replaced by a regular file, not followed.
 bool WriteFileAtomically(const std::string& path, std::string_view bytes, int* errorNumber,
-                         mode_t newFileMode = kDefaultFileMode);
+                         mode_t newFileMode = kDefaultFileMode,
+                         ExistingMode existing = ExistingMode::kKeep);
 
 // Creates directory path and its missing parents (like mkdir -p). True when
 // the directory exists afterwards; otherwise false with *errorNumber set

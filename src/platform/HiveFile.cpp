@@ -134,7 +134,9 @@ void HiveFile::ReportOnce(const Signature& signature, const std::string& text) {
 
 int32_t HiveFile::WriteHive(const std::string& path, RegistryHive hive) {
     int error = 0;
-    if (!WriteFileAtomically(path, hive.ToText(), &error)) {
+    // A hive holds secrets (a scheduled scan's account): its owner's only.
+    if (!WriteFileAtomically(path, hive.ToText(), &error, kPrivateFileMode,
+                             ExistingMode::kReplace)) {
         return WriteFailure("cannot write registry hive " + path, error);
     }
     // Still under the lock, so the file just written is the current one.

@@ -2,12 +2,21 @@
 
 #include <Q9CfgE.h>
 
+#include <strings.h>
+
 #include <QDateTime>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+#include <utility>
 
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
 #include "options/StoreValues.h"
+#include "schedule/AccountValue.h"
+#include "session/ProcessState.h"
+#include "session/RegistryHelpers.h"
 
 namespace {
 
@@ -25,6 +34,20 @@ uint16_t Field(uint32_t section, uint32_t key) {
 }
 
 bool HoldsEntry(uint32_t section) { return !ReadStoreText(section, CEK_SchedCurDir).empty(); }
+
+constexpr const char* kAccountValueName = "AI";
+
+bool IsJobName(const std::string& name) {
+    const std::size_t length = std::strlen(kScheduleJobPrefix);
+    return name.size() >= length &&
+           strncasecmp(name.c_str(), kScheduleJobPrefix, length) == 0;
+}
+
+// The number behind a job key's prefix; 0 where none stands.
+int32_t JobNumber(const std::string& name) {
+    return static_cast<int32_t>(std::strtol(name.c_str() + std::strlen(kScheduleJobPrefix),
+                                            nullptr, 10));
+}
 
 }  // namespace
 
@@ -78,16 +101,21 @@ void ScheduleEntry::CopyFrom(const ScheduleEntry* other) {
     m_strNetPassword = other->m_strNetPassword;
 }
 
-void ScheduleEntry::LoadFromStore(int32_t number) {
+void ScheduleEntry::Load(const char* registryKey, int32_t number) {
     const uint32_t section = SectionOf(number);
-    m_bOn = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedOn));
-    m_nStyle = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedStyle));
-    m_time.wYear = Field(section, CEK_SchedYear);
-    m_time.wMonth = Field(section, CEK_SchedMonth);
-    m_time.wDay = Field(section, CEK_SchedDay);
-    m_time.wDayOfWeek = Field(section, CEK_SchedDayOfWeek);
-    m_time.wHour = Field(section, CEK_SchedHour);
-    m_time.wMinute = Field(section, CEK_SchedMinute);
+    if (registryKey != nullptr) {
+        LoadJob(registryKey);
+        ReadAccountValue(number, m_strUser, m_strPassword, 0);
+    } else {
+        m_bOn = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedOn));
+        m_nStyle = static_cast<int32_t>(Q9CfgE_GetDWEx(section, CEK_SchedStyle));
+        m_time.wYear = Field(section, CEK_SchedYear);
+        m_time.wMonth = Field(section, CEK_SchedMonth);
+        m_time.wDay = Field(section, CEK_SchedDay);
+        m_time.wDayOfWeek = Field(section, CEK_SchedDayOfWeek);
+        m_time.wHour = Field(section, CEK_SchedHour);
+        m_time.wMinute = Field(section, CEK_SchedMinute);
+    }
     m_targets = TargetsOf(section);
     m_dwScanOptions = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
     m_dwArchive = Q9CfgE_GetDWEx(section, CEK_ScanArchive);
@@ -134,8 +162,112 @@ std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries() {
     std::vector<std::unique_ptr<ScheduleEntry>> entries;
     for (int32_t number = 0; HoldsEntry(SectionOf(number)); ++number) {
         auto entry = std::make_unique<ScheduleEntry>();
-        entry->LoadFromStore(number);
+        entry->Load(nullptr, number);
         entries.push_back(std::move(entry));
     }
     return entries;
+}
+
+// --- The registry home -------------------------------------------------------
+
+std::string ScheduleJobKey(int32_t number) {
+    return RegJoinPath(kScheduleKey, kScheduleJobPrefix + std::to_string(number));
+}
+
+std::string ScheduleRegistryCommandLine(uint32_t section) {
+    char number[16];
+    std::snprintf(number, sizeof number, "%x", section);
+    return "\"" + g_szModuleDir + "q9medic\" /o:" + number;
+}
+
+void ScheduleEntry::LoadJob(const std::string& key) {
+    const RegKey root = platform::LocalMachine();
+    const auto read = [&](const char* value, uint32_t def) {
+        return RegReadDword(root, key.c_str(), value, def);
+    };
+    m_bOn = static_cast<int32_t>(read("On", 0));
+    m_nStyle = static_cast<int32_t>(read("Style", 0));
+    m_time.wYear = static_cast<uint16_t>(read("Year", 2000));
+    m_time.wMonth = static_cast<uint16_t>(read("Month", 1));
+    m_time.wDay = static_cast<uint16_t>(read("Day", 1));
+    m_time.wDayOfWeek = static_cast<uint16_t>(read("DayOfWeek", 0));
+    m_time.wHour = static_cast<uint16_t>(read("Hour", 0));
+    m_time.wMinute = static_cast<uint16_t>(read("Minute", 0));
+}
+
+int32_t ScheduleEntry::SaveToRegistry(int32_t number, int32_t on, uint32_t /*pageFlags*/) const {
+    const RegKey root = platform::LocalMachine();
+    const std::string key = ScheduleJobKey(number);
+    const std::pair<const char*, uint32_t> words[] = {
+        {"On", static_cast<uint32_t>(on)},  {"Style", static_cast<uint32_t>(m_nStyle)},
+        {"Year", m_time.wYear},             {"Month", m_time.wMonth},
+        {"Day", m_time.wDay},               {"DayOfWeek", m_time.wDayOfWeek},
+        {"Hour", m_time.wHour},             {"Minute", m_time.wMinute}};
+    for (const auto& [name, word] : words) RegWriteDword(root, key.c_str(), name, word);
+    RegWriteString(root, key.c_str(), "CmdLine",
+                   ScheduleRegistryCommandLine(SectionOf(number)).c_str());
+    RegWriteString(root, key.c_str(), "CurDir", g_szModuleDir.c_str());
+    std::string scratch;
+    ReadAccountValue(number, scratch, scratch, 1);
+    WriteAccountValue(m_strUser.c_str(), m_strPassword.c_str(), number);
+    return 1;
+}
+
+int32_t ScheduleEntry::ReadAccountValue(int32_t number, std::string& user, std::string& password,
+                                        int32_t deleteAfter) {
+    const RegKey root = platform::LocalMachine();
+    const std::string key = ScheduleJobKey(number);
+    const uint32_t size = RegReadBinary(root, key.c_str(), kAccountValueName, nullptr, 0);
+    if (size == 0) return 0;
+    std::string bytes(size, '\0');
+    if (RegReadBinary(root, key.c_str(), kAccountValueName, bytes.data(), size) != size) return 0;
+    const std::optional<AccountValue> account = ParseAccountValue(bytes.data(), bytes.size());
+    if (!account) return 0;
+    user = account->user;
+    password = account->password;
+    if (deleteAfter != 0) {
+        RegKey job = nullptr;
+        if (platform::RegOpenKey(root, key.c_str(), platform::kKeyAllAccess, &job) ==
+            platform::kSuccess) {
+            platform::RegDeleteValue(job, kAccountValueName);
+            platform::RegCloseKey(job);
+        }
+    }
+    return 1;
+}
+
+int32_t ScheduleEntry::WriteAccountValue(const char* user, const char* password, int32_t number) {
+    if (user == nullptr || password == nullptr) return 0;
+    const std::string bytes = EncodeAccountValue(user, password);
+    return RegWriteBinary(platform::LocalMachine(), ScheduleJobKey(number).c_str(),
+                          kAccountValueName, bytes.data(), static_cast<uint32_t>(bytes.size())) ==
+                   platform::kSuccess
+               ? 1
+               : 0;
+}
+
+void WipeRegistryEntries() {
+    const RegKey root = platform::LocalMachine();
+    for (uint32_t index = 0;;) {
+        const std::string name = RegSubkeyName(root, kScheduleKey, index);
+        if (name.empty()) return;
+        if (IsJobName(name))
+            RegDeleteTree(root, kScheduleKey, name);
+        else
+            ++index;
+    }
+}
+
+std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries() {
+    std::vector<std::unique_ptr<ScheduleEntry>> entries;
+    const RegKey root = platform::LocalMachine();
+    for (uint32_t index = 0;; ++index) {
+        const std::string name = RegSubkeyName(root, kScheduleKey, index);
+        if (name.empty()) return entries;
+        if (!IsJobName(name)) continue;
+        auto entry = std::make_unique<ScheduleEntry>();
+        const std::string key = RegJoinPath(kScheduleKey, name);
+        entry->Load(key.c_str(), JobNumber(name));
+        entries.push_back(std::move(entry));
+    }
 }

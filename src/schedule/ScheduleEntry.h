@@ -7,7 +7,7 @@
 // The number n is nothing but the entry's row in the schedule list when the
 // list is saved; a save wipes every entry and writes the list anew.
 //
-// This file holds the record and its store home.
+// This file holds the record and both homes.
 
 #include <cstdint>
 #include <memory>
@@ -52,6 +52,16 @@ std::string ScheduleStoreCommandLine(uint32_t section);
 // the section as holding an entry.
 constexpr const char* kScheduleStoreDirectory = "%Q9%";
 
+// The scheduler's jobs, below HKEY_LOCAL_MACHINE; this product's are the
+// subkeys whose names start with kScheduleJobPrefix (any case).
+constexpr const char* kScheduleKey = "Software\\ORVTEK\\OrvSD\\Schedule";
+constexpr const char* kScheduleJobPrefix = "Q9SScan";
+// The key of the job numbered number.
+std::string ScheduleJobKey(int32_t number);
+// The scanner's command line in a job's key: the installation directory
+// written out, quoted with the program's name.
+std::string ScheduleRegistryCommandLine(uint32_t section);
+
 class ScheduleEntry {
 public:
     // A new entry: on, every week, the time now, and the targets and scan
@@ -64,13 +74,27 @@ public:
     // Copies every field of other; null does nothing.
     void CopyFrom(const ScheduleEntry* other);
 
-    // Reads the entry of section CES_Schedule | number: timing, targets,
-    // scan options and the network account. The run-as account is not kept
-    // in the store, so it stays empty on this path.
-    void LoadFromStore(int32_t number);
+    // Reads the entry numbered number. With a job key (below
+    // HKEY_LOCAL_MACHINE) the tick, timing and run-as account come from it;
+    // without one, the tick and timing come from the schedule section and
+    // the run-as account, not kept in the store, stays empty. Targets, scan
+    // options and the network account come from the section on both paths.
+    void Load(const char* registryKey, int32_t number);
     // Writes the entry into section CES_Schedule | number with on as its
     // tick (not m_bOn). pageFlags is accepted and not used. Returns 1.
     int32_t SaveToStore(int32_t number, int32_t on, uint32_t pageFlags) const;
+    // Writes the job's key for the scheduler, with on as its tick, and its
+    // run-as account in place of any old one. Returns 1.
+    int32_t SaveToRegistry(int32_t number, int32_t on, uint32_t pageFlags) const;
+
+    // The run-as account of job number's key: 1 when both texts were read
+    // (the value is then deleted when deleteAfter is set), else 0 with the
+    // outputs as they were.
+    static int32_t ReadAccountValue(int32_t number, std::string& user, std::string& password,
+                                    int32_t deleteAfter);
+    // Writes the run-as account into job number's key; null texts write
+    // nothing and give 0.
+    static int32_t WriteAccountValue(const char* user, const char* password, int32_t number);
 
     int32_t m_bOn = 1;
     int32_t m_nStyle = kScheduleEveryWeek;
@@ -85,6 +109,11 @@ public:
     std::string m_strNetUser;
     std::string m_strNetPassword;
     uint32_t m_dwScanPolicy = 0;
+
+private:
+    // The tick and timing of a job's key, with the defaults of a key that
+    // lacks them.
+    void LoadJob(const std::string& key);
 };
 
 // Clears the schedule sections from 0 upward, up to the first whose working
@@ -94,3 +123,11 @@ void WipeStoreEntries();
 // The entries of the store, from section 0 up to the first whose working
 // folder is empty.
 std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries();
+
+// Deletes every job key of this product with all below it; other jobs of
+// the scheduler stay.
+void WipeRegistryEntries();
+
+// The entries of the job keys in the order the registry lists them; the
+// number behind a key's prefix selects its store section.
+std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries();

@@ -83,7 +83,10 @@ bool StoreFile::Replace(const Producer& produce) {
     std::shared_ptr<const StoreData> next = produce(current.data);
     if (!next) return false;
     int error = 0;
-    if (!platform::WriteFileAtomically(m_path, StoreWriter::Write(*next), &error)) {
+    // The store holds enciphered secrets: its owner's only.
+    if (!platform::WriteFileAtomically(m_path, StoreWriter::Write(*next), &error,
+                                       platform::kPrivateFileMode,
+                                       platform::ExistingMode::kReplace)) {
         m_cached = false;
         platform::ReportProblem("cannot write the store file " + m_path + ": " +
                                 std::strerror(error));

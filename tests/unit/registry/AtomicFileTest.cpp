@@ -54,6 +54,16 @@ TEST_F(AtomicFile, ReplacesContentAndKeepsPermissionBits) {
     EXPECT_EQ(PermissionsOf(path), 0640u);
 }
 
+TEST_F(AtomicFile, ReplacingTheModeTightensAnExistingFile) {
+    const std::string path = PathOf("secrets.txt");
+    ASSERT_TRUE(WriteFileAtomically(path, "first", nullptr));
+    ASSERT_EQ(PermissionsOf(path), 0644u);
+    ASSERT_TRUE(WriteFileAtomically(path, "second", nullptr, platform::kPrivateFileMode,
+                                    platform::ExistingMode::kReplace));
+    EXPECT_EQ(TemporaryRegistry::ReadFile(path), "second");
+    EXPECT_EQ(PermissionsOf(path), 0600u);
+}
+
 TEST_F(AtomicFile, WritesEmptyAndBinaryContent) {
     const std::string path = PathOf("binary.bin");
     const std::string bytes("\0\x01\xff\n\r", 5);

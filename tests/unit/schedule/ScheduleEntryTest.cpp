@@ -75,7 +75,7 @@ TEST_F(ScheduleEntryTest, EveryStyleComesBackFromTheStoreWithoutTheRunAsAccount)
         const auto saved = MakeEntry(style, static_cast<uint16_t>(style));
         saved->SaveToStore(0, 1, 0);
         ScheduleEntry loaded;
-        loaded.LoadFromStore(0);
+        loaded.Load(nullptr, 0);
         EXPECT_EQ(loaded.m_nStyle, style);
         EXPECT_EQ(loaded.m_time.wHour, style);
         EXPECT_EQ(loaded.m_time.wDayOfWeek, 1);
