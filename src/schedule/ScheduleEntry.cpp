@@ -13,21 +13,16 @@
 
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
+#include "options/ScanProfile.h"
 #include "options/StoreValues.h"
 #include "schedule/AccountValue.h"
 #include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
+#include "targets/TargetRecords.h"
 
 namespace {
 
 uint32_t SectionOf(int32_t number) { return ScheduleSection(static_cast<uint32_t>(number)); }
-
-std::vector<Target> TargetsOf(uint32_t section) {
-    std::vector<Target> targets;
-    for (const ObjectRecord& record : ReadObjectList(section))
-        targets.push_back({record.kind, record.text});
-    return targets;
-}
 
 uint16_t Field(uint32_t section, uint32_t key) {
     return static_cast<uint16_t>(Q9CfgE_GetDWEx(section, key));
@@ -74,15 +69,31 @@ std::string ScheduleStoreCommandLine(uint32_t section) {
 }
 
 ScheduleEntry::ScheduleEntry() : m_time(LocalTimeNow()) {
-    m_targets = TargetsOf(CES_ScheduleDefault);
-    m_dwScanOptions = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanOptions);
-    m_dwArchive = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanArchive);
-    m_dwArchiveKinds = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanArchiveKinds);
-    m_strExtensions = ReadStoreText(CES_ScheduleDefault, CEK_ScanExtensions);
-    m_dwScanPolicy = Q9CfgE_GetDWEx(CES_ScheduleDefault, CEK_ScanPolicy);
+    m_targets = ReadTargets(CES_ScheduleDefault);
+    ReadScanKeys(CES_ScheduleDefault);
 }
 
 ScheduleEntry::~ScheduleEntry() = default;
+
+void ScheduleEntry::ReadScanKeys(uint32_t section) {
+    ScanProfile profile;
+    profile.LoadProfile(section);
+    m_dwScanOptions = profile.m_dwOptions;
+    m_dwArchive = profile.m_nDepth;
+    m_dwArchiveKinds = profile.m_dwKinds;
+    m_strExtensions = profile.m_strExtensions;
+    m_dwScanPolicy = profile.m_dwPolicy;
+}
+
+ScanProfile ScheduleEntry::ScanKeys() const {
+    ScanProfile profile;
+    profile.m_dwOptions = m_dwScanOptions;
+    profile.m_nDepth = m_dwArchive;
+    profile.m_dwKinds = m_dwArchiveKinds;
+    profile.m_strExtensions = m_strExtensions;
+    profile.m_dwPolicy = m_dwScanPolicy;
+    return profile;
+}
 
 void ScheduleEntry::CopyFrom(const ScheduleEntry* other) {
     if (other == nullptr || other == this) return;
@@ -116,23 +127,15 @@ void ScheduleEntry::Load(const char* registryKey, int32_t number) {
         m_time.wHour = Field(section, CEK_SchedHour);
         m_time.wMinute = Field(section, CEK_SchedMinute);
     }
-    m_targets = TargetsOf(section);
-    m_dwScanOptions = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
-    m_dwArchive = Q9CfgE_GetDWEx(section, CEK_ScanArchive);
-    m_dwArchiveKinds = Q9CfgE_GetDWEx(section, CEK_ScanArchiveKinds);
-    m_strExtensions = ReadStoreText(section, CEK_ScanExtensions);
-    m_dwScanPolicy = Q9CfgE_GetDWEx(section, CEK_ScanPolicy);
+    m_targets = ReadTargets(section);
+    ReadScanKeys(section);
     m_strNetUser = ReadEncText(section, CEK_ScheduleUser);
     m_strNetPassword = ReadEncText(section, CEK_SchedulePassword);
 }
 
 int32_t ScheduleEntry::SaveToStore(int32_t number, int32_t on, uint32_t /*pageFlags*/) const {
     const uint32_t section = SectionOf(number);
-    Q9CfgE_SetDWEx(section, CEK_ScanOptions, m_dwScanOptions);
-    Q9CfgE_SetDWEx(section, CEK_ScanArchive, m_dwArchive);
-    Q9CfgE_SetDWEx(section, CEK_ScanArchiveKinds, m_dwArchiveKinds);
-    Q9CfgE_SetStrEx(section, CEK_ScanExtensions, m_strExtensions.c_str());
-    Q9CfgE_SetDWEx(section, CEK_ScanPolicy, m_dwScanPolicy);
+    ScanKeys().SaveScanKeys(section);
     Q9CfgE_SetDWEx(section, CEK_SchedOn, static_cast<uint32_t>(on));
     Q9CfgE_SetDWEx(section, CEK_SchedStyle, static_cast<uint32_t>(m_nStyle));
     Q9CfgE_SetDWEx(section, CEK_SchedYear, m_time.wYear);
@@ -143,11 +146,9 @@ int32_t ScheduleEntry::SaveToStore(int32_t number, int32_t on, uint32_t /*pageFl
     Q9CfgE_SetDWEx(section, CEK_SchedMinute, m_time.wMinute);
     Q9CfgE_SetStrEx(section, CEK_SchedCmdLine, ScheduleStoreCommandLine(section).c_str());
     Q9CfgE_SetStrEx(section, CEK_SchedCurDir, kScheduleStoreDirectory);
-    std::vector<ObjectRecord> records;
-    for (const Target& target : m_targets) records.push_back({target.kind, target.text});
     // The wipe before the save cleared the list: clearing it here would
     // remove the entry just written.
-    WriteObjectRecords(section, records);
+    WriteObjectRecords(section, TargetRecords(m_targets));
     WriteEncText({section, CEK_ScheduleUser}, m_strNetUser);
     WriteEncText({section, CEK_SchedulePassword}, m_strNetPassword);
     return 1;

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "options/ScanProfile.h"
 #include "targets/TargetList.h"
 
 // The fields of a point in time the way the scheduler keeps them.
@@ -114,6 +115,9 @@ private:
     // The tick and timing of a job's key, with the defaults of a key that
     // lacks them.
     void LoadJob(const std::string& key);
+    // Keys 10, 11, 12, 13 and 16 of a section, the scan profile's keys.
+    void ReadScanKeys(uint32_t section);
+    ScanProfile ScanKeys() const;
 };
 
 // Clears the schedule sections from 0 upward, up to the first whose working

@@ -117,7 +117,6 @@ void CScanProfilePage::BindBlock(const ScanBlock& block) {
         m_bind.Combo(block.compressedFiles, policy, CompressedCodec(m_traits.deletesCompressed));
     if (block.recompress) m_bind.Bit(block.recompress, policy, kPolicyRecompress);
     if (block.executing) m_bind.Combo(block.executing, policy, ExecutingCodec(m_traits.executing));
-    m_compressed = block.compressed;
 }
 
 void CScanProfilePage::PrepareControls() {
@@ -213,7 +212,7 @@ void CScanProfilePage::EditAdvanced() {
 }
 
 void CScanProfilePage::OnControlCommand(int id, ctl::Notification code) {
-    if (id == kCompressedBox && m_compressed != nullptr && GetCheck(id) == kMiddleState)
+    if (id == kCompressedBox && GetCheck(id) == kMiddleState)
         SetCheck(id, 0);
     if (id == kAdvancedButton && code == ctl::Notification::kClicked &&
         m_traits.advancedVariant != ScanPageTraits::kNoAdvanced)

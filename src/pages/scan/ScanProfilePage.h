@@ -133,7 +133,6 @@ private:
     ScanPageTraits m_traits;
     HeldProfile m_held;
     std::vector<PageFunction> m_functions;
-    QCheckBox* m_compressed = nullptr;
 };
 
 // A member made from a form whose controls carry the family's names

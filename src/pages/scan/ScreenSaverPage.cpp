@@ -5,6 +5,7 @@
 #include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
 #include "pages/targets/ScanListDlg.h"
+#include "targets/TargetRecords.h"
 
 namespace {
 
@@ -17,13 +18,6 @@ ScanPageTraits ScreenSaverTraits() {
     traits.enableFirst = 1033;
     traits.enableLast = 1071;
     return traits;
-}
-
-std::vector<Target> StoredTargets() {
-    std::vector<Target> targets;
-    for (const ObjectRecord& record : ReadObjectList(CES_ScreenSaver))
-        targets.push_back({record.kind, record.text});
-    return targets;
 }
 
 }  // namespace
@@ -42,15 +36,13 @@ void CScreenSaverPage::BindMore() {
 
 void CScreenSaverPage::Load() {
     CScanProfilePage::Load();
-    m_targets = StoredTargets();
+    m_targets = ReadTargets(CES_ScreenSaver);
     m_targetsChanged = false;
 }
 
 void CScreenSaverPage::SaveRelated() {
     if (!m_targetsChanged) return;
-    std::vector<ObjectRecord> records;
-    for (const Target& target : m_targets) records.push_back({target.kind, target.text});
-    WriteObjectList(CES_ScreenSaver, records);
+    WriteObjectList(CES_ScreenSaver, TargetRecords(m_targets));
     m_targetsChanged = false;
 }
 

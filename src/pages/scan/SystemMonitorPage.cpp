@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <optional>
 #include <string>
 
 #include "options/ExtensionText.h"
@@ -51,8 +52,12 @@ ScanPageTraits SystemMonitorTraits() {
     return traits;
 }
 
-bool IsDigits(const std::string& text) {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+// The minutes a text of digits stands for; none for another text or one too
+// long to be a number of minutes.
+std::optional<int32_t> MinutesOf(const std::string& text) {
+    if (text.empty() || text.size() > 9 || text.find_first_not_of("0123456789") != std::string::npos)
+        return std::nullopt;
+    return std::stoi(text);
 }
 
 }  // namespace
@@ -101,10 +106,10 @@ void CSystemMonitorPage::SaveRelated() {
 }
 
 bool CSystemMonitorPage::ReadInterval(int32_t& minutes) const {
-    const std::string text = m_ui.intervalEdit->text().toStdString();
-    if (!IsDigits(text) || text.size() > 5) return false;
-    minutes = std::stoi(text);
-    return minutes >= kLeastInterval && minutes <= kMostInterval;
+    const std::optional<int32_t> read = MinutesOf(m_ui.intervalEdit->text().toStdString());
+    if (!read || *read < kLeastInterval || *read > kMostInterval) return false;
+    minutes = *read;
+    return true;
 }
 
 int32_t CSystemMonitorPage::ValidateMore() {
@@ -130,9 +135,7 @@ void CSystemMonitorPage::OnPageCommand(int id, ctl::Notification code) {
     if (id != kFunctionBox || code != ctl::Notification::kClicked) return;
     if (m_ui.functionBox->isChecked()) return;
     int minutes = -1;
-    if (m_ui.autoRestartBox->isChecked()) {
-        const std::string text = m_ui.intervalEdit->text().toStdString();
-        minutes = IsDigits(text) && text.size() <= 9 ? std::stoi(text) : 0;
-    }
+    if (m_ui.autoRestartBox->isChecked())
+        minutes = MinutesOf(m_ui.intervalEdit->text().toStdString()).value_or(0);
     if (!ConfirmMonitorOff(this, minutes)) m_ui.functionBox->setChecked(true);
 }
