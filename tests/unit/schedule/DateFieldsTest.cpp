@@ -17,8 +17,31 @@ namespace {
 DateFormatElement DateLiteral(const char* text) { return {false, 0, QString::fromUtf8(text)}; }
 DateFormatElement DateField(char kind) { return {true, kind, QString()}; }
 
+struct DateTextCase {
+    char kind;
+    int value;
+    const char* text;
+};
+
 class DateFieldsTest : public testing::Test {
 protected:
+    // Each value shows as its text.
+    static void ExpectTexts(const DateFieldTable& table,
+                            std::initializer_list<DateTextCase> cases) {
+        for (const DateTextCase& c : cases) {
+            EXPECT_EQ(table.FieldText(c.kind, c.value), QString::fromUtf8(c.text))
+                << c.kind << " " << c.value;
+        }
+    }
+    // Each text reads as its value.
+    static void ExpectReads(const DateFieldTable& table,
+                            std::initializer_list<DateTextCase> cases) {
+        for (const DateTextCase& c : cases) {
+            EXPECT_EQ(table.ReadText(c.kind, QString::fromUtf8(c.text)), c.value)
+                << c.kind << " \"" << c.text << "\"";
+        }
+    }
+
     // Writes the values in the order given, into a zeroed time.
     ScheduleTime Written(const DateFieldTable& table,
                          std::initializer_list<std::pair<char, int>> values) const {
@@ -90,22 +113,22 @@ TEST_F(DateFieldsTest, OnA24HourClockTheTwelveHourFieldTakesTheWholeDay) {
 }
 
 TEST_F(DateFieldsTest, NumbersShowPlainAndMinutesAndSecondsWithTwoDigits) {
-    EXPECT_EQ(us.FieldText('d', 7), "7");
-    EXPECT_EQ(us.FieldText('H', 0), "0");
-    EXPECT_EQ(us.FieldText('M', 5), "05");
-    EXPECT_EQ(us.FieldText('S', 0), "00");
-    EXPECT_EQ(us.FieldText('M', 59), "59");
-    EXPECT_EQ(us.FieldText('Y', 2026), "2026");
-    EXPECT_EQ(us.FieldText('y', 3), "3");
+    ExpectTexts(us, {{'d', 7, "7"},
+                     {'H', 0, "0"},
+                     {'M', 5, "05"},
+                     {'S', 0, "00"},
+                     {'M', 59, "59"},
+                     {'Y', 2026, "2026"},
+                     {'y', 3, "3"}});
 }
 
 TEST_F(DateFieldsTest, ValueBeyondTheLimitsShowsAsTheLowest) {
-    EXPECT_EQ(us.FieldText('d', 0), "1");
-    EXPECT_EQ(us.FieldText('d', 32), "1");
-    EXPECT_EQ(us.FieldText('M', 60), "00");
-    EXPECT_EQ(us.FieldText('Y', 1600), "1601");
-    EXPECT_EQ(us.FieldText('Y', 3000), "1601");
-    EXPECT_EQ(us.FieldText('a', -1), "Sunday");
+    ExpectTexts(us, {{'d', 0, "1"},
+                     {'d', 32, "1"},
+                     {'M', 60, "00"},
+                     {'Y', 1600, "1601"},
+                     {'Y', 3000, "1601"},
+                     {'a', -1, "Sunday"}});
 }
 
 TEST_F(DateFieldsTest, WeekdayZeroIsSunday) {
@@ -117,46 +140,39 @@ TEST_F(DateFieldsTest, WeekdayZeroIsSunday) {
 }
 
 TEST_F(DateFieldsTest, MonthsAndDesignatorsByName) {
-    EXPECT_EQ(us.FieldText('b', 1), "January");
-    EXPECT_EQ(us.FieldText('b', 12), "December");
-    EXPECT_EQ(us.FieldText('B', 3), "Mar");
-    EXPECT_EQ(us.FieldText('p', 0), "AM");
-    EXPECT_EQ(us.FieldText('p', 1), "PM");
+    ExpectTexts(us, {{'b', 1, "January"},
+                     {'b', 12, "December"},
+                     {'B', 3, "Mar"},
+                     {'p', 0, "AM"},
+                     {'p', 1, "PM"}});
 }
 
 TEST_F(DateFieldsTest, GermanNamesAndNoDesignatorOnA24HourClock) {
-    EXPECT_EQ(de.FieldText('a', 0), "Sonntag");
-    EXPECT_EQ(de.FieldText('a', 1), "Montag");
-    EXPECT_EQ(de.FieldText('b', 3), QString::fromUtf8("M\u00e4rz"));
-    EXPECT_EQ(de.FieldText('p', 0), "");
-    EXPECT_EQ(de.FieldText('p', 1), "");
+    ExpectTexts(de, {{'a', 0, "Sonntag"},
+                     {'a', 1, "Montag"},
+                     {'b', 3, "M\u00e4rz"},
+                     {'p', 0, ""},
+                     {'p', 1, ""}});
     EXPECT_EQ(de.Names('a').size(), 7);
     EXPECT_EQ(de.Names('B').size(), 12);
     EXPECT_TRUE(de.Names('d').isEmpty());
 }
 
 TEST_F(DateFieldsTest, NumbersReadAsAtoiDoesAfterLeadingBlanks) {
-    EXPECT_EQ(us.ReadText('d', "  12"), 12);
-    EXPECT_EQ(us.ReadText('d', "12th"), 12);
-    EXPECT_EQ(us.ReadText('M', "07"), 7);
-    EXPECT_EQ(us.ReadText('H', "x5"), 0);
-    EXPECT_EQ(us.ReadText('d', "99999999999"), -1);
-    EXPECT_EQ(us.ReadText('d', "-99999999999"), -1);
+    ExpectReads(us, {{'d', 12, "  12"},
+                     {'d', 12, "12th"},
+                     {'M', 7, "07"},
+                     {'H', 0, "x5"},
+                     {'d', -1, "99999999999"},
+                     {'d', -1, "-99999999999"}});
 }
 
 TEST_F(DateFieldsTest, EmptyFieldReadsZeroWhichIsBelowTheLimitsOfDayMonthAndHour) {
-    EXPECT_EQ(us.ReadText('d', ""), -1);
-    EXPECT_EQ(us.ReadText('m', ""), -1);
-    EXPECT_EQ(us.ReadText('I', ""), -1);
-    EXPECT_EQ(us.ReadText('H', ""), 0);
-    EXPECT_EQ(us.ReadText('M', ""), 0);
+    ExpectReads(us, {{'d', -1, ""}, {'m', -1, ""}, {'I', -1, ""}, {'H', 0, ""}, {'M', 0, ""}});
 }
 
 TEST_F(DateFieldsTest, FullYearRefusesTheEndsBeyondItsLimits) {
-    EXPECT_EQ(us.ReadText('Y', "1600"), 0);
-    EXPECT_EQ(us.ReadText('Y', "3000"), 0);
-    EXPECT_EQ(us.ReadText('Y', "1601"), 1601);
-    EXPECT_EQ(us.ReadText('Y', "2999"), 2999);
+    ExpectReads(us, {{'Y', 0, "1600"}, {'Y', 0, "3000"}, {'Y', 1601, "1601"}, {'Y', 2999, "2999"}});
 }
 
 TEST_F(DateFieldsTest, ThirteenInTheTwelveHourFieldReadsAsItsDefault) {
@@ -165,22 +181,20 @@ TEST_F(DateFieldsTest, ThirteenInTheTwelveHourFieldReadsAsItsDefault) {
 }
 
 TEST_F(DateFieldsTest, NamesReadWithoutRegardToCase) {
-    EXPECT_EQ(us.ReadText('a', "sunday"), 0);
-    EXPECT_EQ(us.ReadText('a', "  MONDAY"), 1);
-    EXPECT_EQ(us.ReadText('a', "Saturday"), 6);
-    EXPECT_EQ(us.ReadText('A', "sat"), 6);
-    EXPECT_EQ(us.ReadText('b', "march"), 3);
-    EXPECT_EQ(us.ReadText('B', "DEC"), 12);
-    EXPECT_EQ(us.ReadText('p', "am"), 0);
-    EXPECT_EQ(us.ReadText('p', "Pm"), 1);
+    ExpectReads(us, {{'a', 0, "sunday"},
+                     {'a', 1, "  MONDAY"},
+                     {'a', 6, "Saturday"},
+                     {'A', 6, "sat"},
+                     {'b', 3, "march"},
+                     {'B', 12, "DEC"},
+                     {'p', 0, "am"},
+                     {'p', 1, "Pm"}});
     EXPECT_EQ(de.ReadText('b', QString::fromUtf8("m\u00e4rz")), 3);
 }
 
 TEST_F(DateFieldsTest, UnknownNamesReadAsTheDefault) {
-    EXPECT_EQ(us.ReadText('a', "Funday"), -1);
-    EXPECT_EQ(us.ReadText('a', "Sun"), -1);
-    EXPECT_EQ(us.ReadText('b', "Marchy"), -1);
-    EXPECT_EQ(us.ReadText('p', "noon"), -1);
+    ExpectReads(us,
+                {{'a', -1, "Funday"}, {'a', -1, "Sun"}, {'b', -1, "Marchy"}, {'p', -1, "noon"}});
 }
 
 TEST_F(DateFieldsTest, DesignatorOnA24HourClockMustBeEmpty) {
