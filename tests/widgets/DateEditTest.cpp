@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QPalette>
+#include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
 #include <cstdlib>
@@ -425,6 +426,19 @@ TEST_F(DateEditTest, TabPassesOverFieldsThatDoNotFit) {
     date->Field(1)->setFocus();
     QTest::keyClick(date->Field(1), Qt::Key_Tab);
     EXPECT_EQ(Focused(), after);
+}
+
+TEST_F(DateEditTest, TabLeavesPastDisabledControlsForOneMadeOfParts) {
+    auto* spin = new QSpinBox(&window);
+    spin->setGeometry(120, 70, 80, 24);
+    after->setEnabled(false);
+    date->SetWindowText("%H:%M");
+    ShowActive();
+    date->Field(1)->setFocus();
+    QTest::keyClick(date->Field(1), Qt::Key_Tab);
+    EXPECT_TRUE(spin->hasFocus());
+    QTest::keyClick(Focused(), Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(Focused(), date->Field(1));
 }
 
 TEST_F(DateEditTest, FocusOnTheControlGoesToTheFirstField) {
