@@ -27,6 +27,7 @@ BenchInstallation::BenchInstallation() : m_savedModuleDir(g_szModuleDir) {
     char pattern[] = "/tmp/q9-bench-XXXXXX";
     m_directory = mkdtemp(pattern);
     setenv("Q9_INSTALL_DIR", m_directory.c_str(), 1);
+    setenv("Q9_REGISTRY_DIR", (m_directory + "/registry/").c_str(), 1);
     Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, nullptr, Q9CFGE_MODE_PLAIN);
     Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, "", Q9CFGE_MODE_PLAIN);
     Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_Scan, 0x1);

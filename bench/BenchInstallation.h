@@ -1,7 +1,7 @@
 #pragma once
 
 // An installation directory of its own for a benchmark (registration state,
-// journal and store), with the bindings loading from the build's library
+// journal, store and registry), with the bindings loading from the build's library
 // folder and the system monitor registered. Removed afterwards.
 
 #include <string>

@@ -16,6 +16,9 @@
 #include "pages/scan/StartupPage.h"
 #include "pages/scan/SystemMonitorPage.h"
 #include "pages/scan/SystemScanPage.h"
+#include "pages/schedule/SchedulePage.h"
+#include "pages/schedule/ScheduleScanPage.h"
+#include "pages/schedule/ScheduleTimePage.h"
 #include "pages/targets/ExcludePage.h"
 
 namespace {
@@ -42,7 +45,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CSystemScanPage>(kSystemScan, 4),
     Built<CSystemScanPage>(kSystemScanSpare, 4),
     Built<CScreenSaverPage>(kScreenSaverScan, 7),
-    Unbuilt(kSchedule, 113, 6),
+    Built<CSchedulePage>(kSchedule, 6),
     Built<CSystemMonitorPage>(kSystemMonitor, 8),
     Built<CInternetMonitorPage>(kInternetMonitorSpare, 13),
     Built<CInternetMonitorPage>(kInternetMonitor, 16),
@@ -59,8 +62,8 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CPolicyPage>(kPolicy, 3),
     Unbuilt(kWizardScan, 1003, 0),
     Unbuilt(kWizardFeature, 1004, 0),
-    Unbuilt(kScheduleTime, 1008, 0),
-    Unbuilt(kScheduleScan, 1010, 0),
+    Built<CScheduleTimePage>(kScheduleTime, 0),
+    Built<CScheduleScanPage>(kScheduleScan, 0),
     Unbuilt(kEasyConfig, 1030, 1),
     Built<CMessengerPage>(kMessenger, 21),
     Built<CStartupPage>(kStartup, 22),

@@ -62,6 +62,18 @@ ScheduleTime LocalTimeNow() {
     return result;
 }
 
+int DayOfWeekOf(int year, int month, int day) {
+    if (month == 1 || month == 2) --year;
+    const int shifted = (month + 9) % 12 + 1;  // March is 1, February 12
+    const int century = year / 100;
+    const int inCentury = year % 100;
+    int result = ((shifted * 13 - 1) / 5 + day + inCentury + inCentury / 4 + century / 4 -
+                  2 * century) %
+                 7;
+    if (result < 0) result = (result + 7) % 7;
+    return result;
+}
+
 std::string ScheduleStoreCommandLine(uint32_t section) {
     char text[64];
     std::snprintf(text, sizeof text, "\"%%Q9%%/q9medic\" /o:%x", section);
@@ -259,16 +271,28 @@ void WipeRegistryEntries() {
     }
 }
 
-std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries() {
-    std::vector<std::unique_ptr<ScheduleEntry>> entries;
+std::vector<std::string> ScheduleJobNames() {
+    std::vector<std::string> names;
     const RegKey root = platform::LocalMachine();
     for (uint32_t index = 0;; ++index) {
-        const std::string name = RegSubkeyName(root, kScheduleKey, index);
-        if (name.empty()) return entries;
-        if (!IsJobName(name)) continue;
+        std::string name = RegSubkeyName(root, kScheduleKey, index);
+        if (name.empty()) return names;
+        if (IsJobName(name)) names.push_back(std::move(name));
+    }
+}
+
+std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries() {
+    std::vector<std::unique_ptr<ScheduleEntry>> entries;
+    for (const std::string& name : ScheduleJobNames()) {
         auto entry = std::make_unique<ScheduleEntry>();
         const std::string key = RegJoinPath(kScheduleKey, name);
         entry->Load(key.c_str(), JobNumber(name));
         entries.push_back(std::move(entry));
     }
+    return entries;
+}
+
+std::vector<std::unique_ptr<ScheduleEntry>> ListScheduleEntries() {
+    if (g_bLevelPending != 0 || g_bScheduleDirty != 0) return LoadStoreEntries();
+    return LoadRegistryEntries();
 }

@@ -34,6 +34,10 @@ struct ScheduleTime {
 // The local time now.
 ScheduleTime LocalTimeNow();
 
+// The day of the week of a date, 0 being Sunday, by Zeller's congruence
+// with truncating divisions; any numbers give an answer in 0 to 6.
+int DayOfWeekOf(int year, int month, int day);
+
 // How often a job runs; the value is what is stored.
 enum ScheduleStyle : int32_t {
     kScheduleEveryDay = 1,    // hour, minute
@@ -132,6 +136,15 @@ std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries();
 // the scheduler stay.
 void WipeRegistryEntries();
 
+// The names of this product's job keys in the order the registry lists
+// them.
+std::vector<std::string> ScheduleJobNames();
+
 // The entries of the job keys in the order the registry lists them; the
 // number behind a key's prefix selects its store section.
 std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries();
+
+// The entries as the schedule list shows them: from the store while it is
+// ahead of the registry (a protection level was loaded into it, or the list
+// was saved into it in this session), else from the job keys.
+std::vector<std::unique_ptr<ScheduleEntry>> ListScheduleEntries();

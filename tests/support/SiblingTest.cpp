@@ -14,11 +14,15 @@
 
 namespace fs = std::filesystem;
 
-SiblingTest::SiblingTest() : m_savedModuleDir(g_szModuleDir), m_savedLevelPending(g_bLevelPending) {
+SiblingTest::SiblingTest()
+    : m_savedModuleDir(g_szModuleDir),
+      m_savedLevelPending(g_bLevelPending),
+      m_savedScheduleDirty(g_bScheduleDirty) {
     g_Siblings.Release();
     g_Siblings.MarkPending(0, kAllSwitchBits);
     g_szModuleDir = m_install.Directory();
     g_bLevelPending = 0;
+    g_bScheduleDirty = 0;
     ResetStore();
 }
 
@@ -28,6 +32,7 @@ SiblingTest::~SiblingTest() {
     ResetStore();
     g_szModuleDir = m_savedModuleDir;
     g_bLevelPending = m_savedLevelPending;
+    g_bScheduleDirty = m_savedScheduleDirty;
 }
 
 void SiblingTest::ResetStore() {

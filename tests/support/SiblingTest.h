@@ -3,8 +3,8 @@
 // Fixture of tests that run the library against the sibling libraries: an
 // installation directory of its own per test, which is also g_szModuleDir,
 // so that each test chooses which sibling libraries exist there. The
-// bindings are released, the pending mask cleared and the store put back on
-// the test's live file before and after each test.
+// bindings are released, the pending mask and the session's flags cleared
+// and the store put back on the test's live file before and after each test.
 
 #include <gtest/gtest.h>
 
@@ -44,6 +44,7 @@ private:
     TemporaryInstallation m_install;
     std::string m_savedModuleDir;
     int32_t m_savedLevelPending = 0;
+    int32_t m_savedScheduleDirty = 0;
 };
 
 // The lines of text, without their line ends.

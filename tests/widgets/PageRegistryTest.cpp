@@ -16,6 +16,8 @@
 #include "pages/BoundPage.h"
 #include "pages/PageRegistry.h"
 #include "pages/scan/AdvancedScanDlg.h"
+#include "pages/schedule/AuthorizationDlg.h"
+#include "pages/schedule/ScheduleWizardDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
@@ -31,9 +33,10 @@ namespace {
 constexpr std::array<int, 2> kShellTemplates = {CConfigDlg::kTemplateId,
                                                 CPageShellDlg::kTemplateId};
 // The forms of the dialogs that pages open.
-constexpr std::array<int, 4> kPageDialogTemplates = {
-    CScanListDlg::kTemplateId, CAddFolderDlg::kTemplateId, CAddExtensionDlg::kTemplateId,
-    CAdvancedScanDlg::kTemplateId};
+constexpr std::array<int, 6> kPageDialogTemplates = {
+    CScanListDlg::kTemplateId,       CAddFolderDlg::kTemplateId,
+    CAddExtensionDlg::kTemplateId,   CAdvancedScanDlg::kTemplateId,
+    CScheduleWizardDlg::kTemplateId, CAuthorizationDlg::kTemplateId};
 
 std::vector<PageRow> BuiltRows() {
     std::vector<PageRow> rows;

@@ -25,6 +25,8 @@
 #include "pages/PageRegistry.h"
 #include "pages/SettingsPage.h"
 #include "pages/scan/AdvancedScanDlg.h"
+#include "pages/schedule/AuthorizationDlg.h"
+#include "pages/schedule/ScheduleWizardDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
@@ -207,6 +209,17 @@ TEST_P(TextFitTest, EveryTextOfTheAdvancedScanDialogFitsItsControl) {
     QWidget advancedForm;
     Ui::Dialog1038().setupUi(&advancedForm);
     CheckForm(advancedForm, CAdvancedScanDlg::kTemplateId);
+}
+
+TEST_P(TextFitTest, EveryTextOfTheScheduleDialogsFitsItsControl) {
+    ScopedUiLanguage language(GetParam());
+    ASSERT_TRUE(language.Loaded()) << GetParam().file;
+    QWidget wizardForm;
+    Ui::Dialog1009().setupUi(&wizardForm);
+    CheckForm(wizardForm, CScheduleWizardDlg::kTemplateId);
+    QWidget authorizationForm;
+    Ui::Dialog1024().setupUi(&authorizationForm);
+    CheckForm(authorizationForm, CAuthorizationDlg::kTemplateId);
 }
 
 // The four tabs of the system scan stand side by side, without scroll buttons.

@@ -12,7 +12,10 @@
 #include "ArgumentParsing.h"
 #include "Q9CfgE.h"
 #include "common/InstallDirectory.h"
+#include "options/StoreKeys.h"
 #include "platform/Registry.h"
+#include "schedule/ScheduleEntry.h"
+#include "schedule/ScheduleText.h"
 #include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
 #include "targets/ExclusionMatch.h"
@@ -307,6 +310,38 @@ int ExclusionsTest(Context& context) {
     return kDone;
 }
 
+// One scheduled scan: its tick, interval and targets, and whether it carries
+// accounts; never the accounts themselves.
+std::string DescribeEntry(const ScheduleEntry& entry) {
+    int32_t valid = 1;
+    std::string interval = FormatInterval(entry.m_nStyle, &entry.m_time, &valid);
+    if (valid == 0 || interval.empty())
+        interval = "style " + std::to_string(entry.m_nStyle) + (valid ? "" : " (cannot be shown)");
+    std::string line = std::string(entry.m_bOn ? "on" : "off") + ", " + interval + ", " +
+                       FormatTargets(entry.m_targets);
+    if (!entry.m_strUser.empty()) line += ", run-as account set";
+    if (!entry.m_strNetUser.empty()) line += ", network account set";
+    return line;
+}
+
+// The scheduled scans in both homes: the store's schedule sections and the
+// scheduler's job keys of this product.
+int Schedule(Context& context) {
+    InitProcessState();
+    const auto stored = LoadStoreEntries();
+    context.out << "store:" << (stored.empty() ? " none" : "") << "\n";
+    for (std::size_t i = 0; i < stored.size(); ++i) {
+        context.out << "  section " << Hex(ScheduleSection(static_cast<uint32_t>(i))) << ": "
+                    << DescribeEntry(*stored[i]) << "\n";
+    }
+    const std::vector<std::string> names = ScheduleJobNames();
+    const auto jobs = LoadRegistryEntries();
+    context.out << "registry:" << (jobs.empty() ? " none" : "") << "\n";
+    for (std::size_t i = 0; i < jobs.size() && i < names.size(); ++i)
+        context.out << "  " << names[i] << ": " << DescribeEntry(*jobs[i]) << "\n";
+    return kDone;
+}
+
 int Journal(Context& context) {
     return PrintFile(context, sibling::InstallFile("Q9SSCtrl.journal"),
                      "registration journal yet");
@@ -331,6 +366,7 @@ const std::vector<Verb>& Verbs() {
         {"registry", "dump", "HKLM|HKCU", 1, 1, RegistryDump},
         {"journal", "", "", 0, 0, Journal},
         {"zone", "", "", 0, 0, Zone},
+        {"schedule", "", "", 0, 0, Schedule},
         {"exclusions", "test", "PATH", 1, 1, ExclusionsTest},
     };
     return verbs;

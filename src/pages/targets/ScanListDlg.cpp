@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/TargetPair.h"
 #include "text/StringTable.h"
 
 namespace {
@@ -23,32 +24,16 @@ bool CScanListDlg::OnInitDialog() {
 
 void CScanListDlg::OnCommand(int id) {
     bool changed = false;
-    switch (id) {
-        case kAddButton: changed = AddSelected(); break;
-        case kDeleteButton:
-            changed = m_ui.targetTree->DeleteTarget(m_ui.targetTree->currentItem());
-            break;
-        case kDeleteAllButton: changed = m_ui.targetTree->DeleteAll(); break;
-        default: CFormDialog::OnCommand(id); return;
+    if (!target_pair::OnCommand(id, *m_ui.folderTree, *m_ui.targetTree, &changed)) {
+        CFormDialog::OnCommand(id);
+        return;
     }
     if (changed) m_changed = true;
 }
 
-bool CScanListDlg::AddSelected() {
-    const QTreeWidgetItem* node = m_ui.folderTree->currentItem();
-    if (!m_ui.folderTree->IsFileSystemNode(node)) return false;
-    uint8_t kind = 0;
-    const std::string path = m_ui.folderTree->GetPath(node, &kind);
-    return m_ui.targetTree->AddTarget(path, kind) != nullptr;
-}
-
 void CScanListDlg::OnOK() {
-    const int32_t size = m_ui.targetTree->GetList(nullptr, 0);
-    if (size != 0) {
-        std::string list(static_cast<std::size_t>(size), '\0');
-        m_ui.targetTree->GetList(list.data(), size);
-        m_list = std::move(list);
-    }
+    std::string list = target_pair::ListOf(*m_ui.targetTree);
+    if (!list.empty()) m_list = std::move(list);
     if (m_ui.targetTree->IsChanged()) m_changed = true;
     CFormDialog::OnOK();
 }

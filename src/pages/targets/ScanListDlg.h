@@ -31,13 +31,6 @@ protected:
     void OnOK() override;
 
 private:
-    static constexpr int kAddButton = 1016;
-    static constexpr int kDeleteButton = 1017;
-    static constexpr int kDeleteAllButton = 1018;
-
-    // Adds the selected folder; whether it was added.
-    bool AddSelected();
-
     std::string m_list;
     bool m_changed = false;
 };

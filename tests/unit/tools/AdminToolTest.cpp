@@ -41,7 +41,7 @@ TEST_F(AdminToolTest, HelpListsEveryVerbAndSucceeds) {
     const Outcome outcome = Run({"--help"});
     EXPECT_EQ(outcome.status, 0);
     for (const char* verb : {"store get-dword", "store set-enc", "store dump", "registry get",
-                             "registry dump", "journal", "zone"}) {
+                             "registry dump", "journal", "zone", "schedule"}) {
         EXPECT_NE(outcome.out.find(verb), std::string::npos) << verb;
     }
 }
@@ -174,4 +174,36 @@ TEST_F(AdminToolTest, ExclusionsOutOfForceExcludeNothingOfTheProducts) {
     EXPECT_EQ(Run({"exclusions", "test", "/x/core.dmp"}).status, 1);
     EXPECT_EQ(Run({"exclusions", "test", "/opt/other/x"}).status, 0);
     EXPECT_EQ(Run({"exclusions", "test"}).status, 2);
+}
+
+// The scheduled scans of both homes, each named by its section or job key,
+// with the accounts told only as being set.
+TEST_F(AdminToolTest, ScheduleListsBothHomesWithoutTheAccounts) {
+    const QString job = "Software\\ORVTEK\\OrvSD\\Schedule\\Q9SScan0";
+    ASSERT_EQ(Run({"registry", "set-dword", "HKLM", job, "On", "1"}).status, 0);
+    ASSERT_EQ(Run({"registry", "set-dword", "HKLM", job, "Style", "6"}).status, 0);
+    ASSERT_EQ(Run({"registry", "set-dword", "HKLM", "Software\\ORVTEK\\OrvSD\\Schedule\\Other",
+                   "On", "1"})
+                  .status,
+              0);
+    const QString section = "0x10000000";
+    ASSERT_EQ(Run({"store", "set-dword", section, "32", "0"}).status, 0);
+    ASSERT_EQ(Run({"store", "set-dword", section, "33", "6"}).status, 0);
+    ASSERT_EQ(Run({"store", "set-text", section, "41", "%Q9%"}).status, 0);
+    ASSERT_EQ(Run({"store", "set-enc", section, "50", "share-user"}).status, 0);
+    const Outcome outcome = Run({"schedule"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out,
+              "store:\n"
+              "  section 0x10000000: off, Whenever the system starts, Local hard drives, "
+              "network account set\n"
+              "registry:\n"
+              "  Q9SScan0: on, Whenever the system starts, Local hard drives\n");
+    EXPECT_EQ(outcome.out.find("share-user"), std::string::npos);
+}
+
+TEST_F(AdminToolTest, ScheduleSaysWhenAHomeHoldsNoScan) {
+    const Outcome outcome = Run({"schedule"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, "store: none\nregistry: none\n");
 }
