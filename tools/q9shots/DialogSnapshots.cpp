@@ -11,10 +11,14 @@
 #include "controls/ShellTree.h"
 #include "controls/TargetTree.h"
 #include "options/ScanBits.h"
+#include "pages/SettingsPage.h"
 #include "pages/scan/AdvancedScanDlg.h"
+#include "pages/schedule/AuthorizationDlg.h"
+#include "pages/schedule/ScheduleWizardDlg.h"
 #include "pages/targets/AddExtensionDlg.h"
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
+#include "schedule/ScheduleEntry.h"
 #include "targets/TargetList.h"
 
 namespace {
@@ -106,12 +110,44 @@ bool SaveAdvancedScan(int32_t variant, int firstTab, const QString& folder) {
     return saved;
 }
 
+// Both pages of the schedule wizard on a weekly scan of two folders, as
+// <folder>/dialog1009-page1.png and -page2.png.
+bool SaveScheduleWizard(const QString& folder) {
+    ScheduleEntry entry;
+    entry.m_nStyle = kScheduleEveryWeek;
+    entry.m_time = {0, 0, 5, 0, 21, 30, 0, 0};
+    entry.m_targets = {{kTargetFolder, "/home"}, {kTargetFolder, "/srv/share"}};
+    CScheduleWizardDlg dialog(&entry, 0, nullptr);
+    if (!dialog.Create()) return false;
+    dialog.show();
+    OpenRootFolder(dialog.Page(0)->findChild<CShellTree*>());
+    bool saved =
+        SaveShown(dialog, QString("dialog%1-page1").arg(CScheduleWizardDlg::kTemplateId), folder);
+    dialog.OnCommand(1004);  // "Next  >"
+    saved =
+        saved &&
+        SaveShown(dialog, QString("dialog%1-page2").arg(CScheduleWizardDlg::kTemplateId), folder);
+    dialog.reject();
+    return saved;
+}
+
+// The accounts of a scheduled scan with a user name typed; the password
+// fields show only their bullets.
+bool SaveAuthorization(const QString& folder) {
+    CAuthorizationDlg dialog(nullptr);
+    dialog.SetUser("scanner");
+    dialog.SetPassword("picture-only");
+    if (!dialog.Create()) return false;
+    return SaveDialog(dialog, CAuthorizationDlg::kTemplateId, folder);
+}
+
 }  // namespace
 
 int SaveTargetDialogs(const QString& folder) {
     const bool saved = SaveScanList(folder) && SaveAddFolder(folder) && SaveAddExtension(folder) &&
                        SaveAdvancedScan(kAdvancedSystemScan, 0, folder) &&
                        // The monitor's scan options; its file types are the tab above.
-                       SaveAdvancedScan(kAdvancedMonitor, 1, folder);
+                       SaveAdvancedScan(kAdvancedMonitor, 1, folder) &&
+                       SaveScheduleWizard(folder) && SaveAuthorization(folder);
     return saved ? 0 : 1;
 }

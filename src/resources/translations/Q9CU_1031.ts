@@ -48,6 +48,127 @@
     </message>
 </context>
 <context>
+    <name>Dialog1008</name>
+    <message>
+        <source>Choose the intervals for the virus scan. Select the drives or folders to scan from the left frame, and click [Add &gt;&gt;]. If you do not enable the [List to Scan], all local hard drives will be scanned.</source>
+        <translation>Wählen Sie die Intervalle für die Virenprüfung. Wählen Sie links die zu prüfenden Laufwerke oder Ordner und klicken Sie auf [Hinzufügen &gt;&gt;]. Ist die [Prüfliste] leer, werden alle lokalen Festplatten geprüft.</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Datum :</translation>
+    </message>
+    <message>
+        <source>Time :</source>
+        <translation>Uhrzeit :</translation>
+    </message>
+    <message>
+        <source>Add  &gt;&gt;</source>
+        <translation>Hinzufügen  &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;&lt; Delete</source>
+        <translation>&lt;&lt; Löschen</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Alle löschen</translation>
+    </message>
+    <message>
+        <source>Authorization Setting</source>
+        <translation>Kontoeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1009</name>
+    <message>
+        <source>Schedule Scan Wizard</source>
+        <translation>Assistent für geplante Prüfungen</translation>
+    </message>
+    <message>
+        <source>&lt;  Back</source>
+        <translation>&lt;  Zurück</translation>
+    </message>
+    <message>
+        <source>Next  &gt;</source>
+        <translation>Weiter  &gt;</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig stellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1010</name>
+    <message>
+        <source>2. Select the method for scheduled virus scans and repairs.</source>
+        <translation>2. Wählen Sie, wie geplante Prüfungen prüfen und reparieren.</translation>
+    </message>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Close the Scan View window automatically if viruses are not detected</source>
+        <translation>Prüffenster ohne Virenfund automatisch schließen</translation>
+    </message>
+    <message>
+        <source>Scan in the background </source>
+        <translation>Im Hintergrund prüfen </translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Compressed files</source>
+        <translation>Komprimierte Dateien</translation>
+    </message>
+    <message>
+        <source>Recompress after repairing(ZIP file)</source>
+        <translation>Nach Reparatur neu packen (ZIP)</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1013</name>
     <message>
         <source>Select the functions to use</source>
@@ -166,6 +287,41 @@
     <message>
         <source>Default</source>
         <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1024</name>
+    <message>
+        <source>Authorization Setting</source>
+        <translation>Kontoeinstellungen</translation>
+    </message>
+    <message>
+        <source>Please enter the user name and password for the scheduled scan.</source>
+        <translation>Benutzername und Kennwort, unter denen die geplante Prüfung läuft:</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>Please enter the user name and password for access to the network directories.</source>
+        <translation>Benutzername und Kennwort für den Zugriff auf Netzwerkordner:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -717,6 +873,25 @@
     <message>
         <source>Executing files</source>
         <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog113</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>List of scheduled scans:</source>
+        <translation>Geplante Prüfungen:</translation>
     </message>
 </context>
 <context>
