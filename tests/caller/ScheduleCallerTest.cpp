@@ -5,10 +5,12 @@
 // another program's job stays.
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTimer>
@@ -16,6 +18,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "BoxAnswerer.h"
 #include "CallerSessionTest.h"
@@ -42,6 +45,21 @@ void Click(QDialog* dialog, int id) {
     auto* button = DialogDriver::Find<QAbstractButton>(dialog, id);
     ASSERT_NE(button, nullptr) << id;
     button->click();
+}
+
+// A button of the schedule page itself: the dialog around it has a button of
+// the same id ("Default").
+void ClickOnPage(QDialog* dialog, int id) {
+    auto* list = DialogDriver::Find<QTreeWidget>(dialog, kScheduleList);
+    ASSERT_NE(list, nullptr);
+    for (auto* button : list->parentWidget()->findChildren<QAbstractButton*>(
+             QString(), Qt::FindDirectChildrenOnly)) {
+        if (button->property("controlId").toInt() == id) {
+            button->click();
+            return;
+        }
+    }
+    ADD_FAILURE() << "no button " << id << " on the page";
 }
 
 class ScheduleCallerTest : public CallerSessionTest {
@@ -96,7 +114,7 @@ TEST_F(ScheduleCallerTest, AWeeklyScanAddedThroughTheWizardStandsInBothHomes) {
             Click(wizard, kAddTarget);
             Click(wizard, 1);  // Finish
         });
-        Click(dialog, kAddButton);
+        ClickOnPage(dialog, kAddButton);
         auto* list = DialogDriver::Find<QTreeWidget>(dialog, kScheduleList);
         ASSERT_NE(list, nullptr);
         EXPECT_EQ(list->topLevelItemCount(), 1);
@@ -125,12 +143,56 @@ TEST_F(ScheduleCallerTest, AWeeklyScanAddedThroughTheWizardStandsInBothHomes) {
         ASSERT_NE(list, nullptr);
         ASSERT_EQ(list->topLevelItemCount(), 1);
         list->setCurrentItem(list->topLevelItem(0));
-        Click(dialog, kDeleteButton);
+        ClickOnPage(dialog, kDeleteButton);
     });
     EXPECT_EQ(Store().find("[0x10000000]"), std::string::npos);
     EXPECT_EQ(Hive().find("Q9SScan"), std::string::npos);
     EXPECT_NE(Hive().find("Schedule\\Backup]"), std::string::npos);
     EXPECT_EQ(Admin("schedule"), "store: none\nregistry: none\n");
+}
+
+// The accounts of a scheduled scan entered through the authorization dialog:
+// neither password stands in clear in the hive or the store file, and both
+// files are their owner's only.
+TEST_F(ScheduleCallerTest, PasswordsStandInTheirFilesOnlyScrambledOrEnciphered) {
+    const std::string runPassword = "Run-Pw-7q3x";
+    const std::string netPassword = "Net-Pw-9k2v";
+    Session([&runPassword, &netPassword](QDialog* dialog) {
+        QTimer::singleShot(50, [&runPassword, &netPassword] {
+            auto* wizard = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(wizard, nullptr);
+            QTimer::singleShot(50, [&runPassword, &netPassword] {
+                auto* accounts = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                ASSERT_NE(accounts, nullptr);
+                const std::pair<int, std::string> fields[] = {
+                    {1080, "runner"}, {1023, runPassword}, {1024, runPassword},
+                    {1081, "share"},  {1082, netPassword}, {1083, netPassword}};
+                for (const auto& [id, text] : fields) {
+                    auto* edit = DialogDriver::Find<QLineEdit>(accounts, id);
+                    ASSERT_NE(edit, nullptr) << id;
+                    edit->setText(QString::fromStdString(text));
+                }
+                Click(accounts, 1);
+            });
+            Click(wizard, 1084);
+            Click(wizard, 1);  // Finish
+        });
+        ClickOnPage(dialog, kAddButton);
+    });
+    const std::string hive = Hive();
+    const std::string store = Store();
+    ASSERT_NE(hive.find("Q9SScan0"), std::string::npos) << hive;
+    EXPECT_NE(hive.find("\"AI\""), std::string::npos);
+    EXPECT_NE(store.find("CEK_ScheduleUser"), std::string::npos);
+    for (const std::string& secret : {runPassword, netPassword}) {
+        EXPECT_EQ(hive.find(secret), std::string::npos) << secret;
+        EXPECT_EQ(store.find(secret), std::string::npos) << secret;
+    }
+    for (const char* file : {kHive, "Q9Cfg.dat"}) {
+        struct stat status {};
+        ASSERT_EQ(stat(caller->install.PathOf(file).c_str(), &status), 0) << file;
+        EXPECT_EQ(status.st_mode & 0777, 0600U) << file;
+    }
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 // wipe, and the listing in the registry's order.
 
 #include <Q9CfgE.h>
-#include <sys/stat.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <memory>
 #include <string>
@@ -38,8 +38,7 @@ protected:
                             0xDEAD);
     }
     static std::string JobText(int32_t number, const char* value) {
-        return RegReadString(platform::LocalMachine(), ScheduleJobKey(number).c_str(), value,
-                             "");
+        return RegReadString(platform::LocalMachine(), ScheduleJobKey(number).c_str(), value, "");
     }
     static void AddOtherJob(const char* name) {
         RegWriteDword(platform::LocalMachine(), RegJoinPath(kScheduleKey, name).c_str(), "On", 1);
@@ -90,6 +89,56 @@ TEST_F(ScheduleRegistryTest, TheRunAsAccountComesBackOnlyFromTheRegistry) {
     fromStore.Load(nullptr, 0);
     EXPECT_TRUE(fromStore.m_strUser.empty());
     EXPECT_EQ(fromStore.m_strNetUser, "share");
+}
+
+TEST_F(ScheduleRegistryTest, EveryStyleComesBackFromTheRegistryWithItsAccounts) {
+    for (int32_t style : {1, 2, 3, 4, 5, 6}) {
+        const auto saved = MakeEntry(static_cast<uint16_t>(style + 3), "runner");
+        saved->m_nStyle = style;
+        saved->m_strNetUser = "share";
+        saved->m_strNetPassword = "net-secret";
+        saved->m_dwScanPolicy = 0x2000002;
+        WipeStoreEntries();
+        WipeRegistryEntries();
+        saved->SaveToStore(0, 0, 0);
+        saved->SaveToRegistry(0, 0, 0);
+        const std::vector<std::unique_ptr<ScheduleEntry>> jobs = LoadRegistryEntries();
+        ASSERT_EQ(jobs.size(), 1U) << style;
+        const ScheduleEntry& loaded = *jobs[0];
+        EXPECT_EQ(loaded.m_nStyle, style);
+        EXPECT_EQ(loaded.m_bOn, 0) << style;
+        EXPECT_EQ(loaded.m_time.wHour, saved->m_time.wHour);
+        EXPECT_EQ(loaded.m_time.wDayOfWeek, saved->m_time.wDayOfWeek);
+        EXPECT_EQ(loaded.m_time.wDay, saved->m_time.wDay);
+        EXPECT_EQ(loaded.m_time.wMonth, saved->m_time.wMonth);
+        EXPECT_EQ(loaded.m_time.wYear, saved->m_time.wYear);
+        EXPECT_EQ(loaded.m_targets, saved->m_targets);
+        EXPECT_EQ(loaded.m_dwScanPolicy, 0x2000002U);
+        EXPECT_EQ(loaded.m_strUser, "runner");
+        EXPECT_EQ(loaded.m_strPassword, "run-secret");
+        EXPECT_EQ(loaded.m_strNetUser, "share");
+        EXPECT_EQ(loaded.m_strNetPassword, "net-secret");
+    }
+}
+
+// Values of the wrong type read as missing; numbers out of range are read
+// as they stand (the list page drops what it cannot show).
+TEST_F(ScheduleRegistryTest, WronglyTypedAndOutOfRangeValuesAreReadWithoutHarm) {
+    const std::string key = ScheduleJobKey(0);
+    const RegKey root = platform::LocalMachine();
+    RegWriteString(root, key.c_str(), "Style", "weekly");
+    RegWriteDword(root, key.c_str(), "Month", 13);
+    RegWriteDword(root, key.c_str(), "DayOfWeek", 7);
+    RegWriteString(root, key.c_str(), "Hour", "nine");
+    const unsigned char truncated[] = {6, 0, 0, 0, 'r', 'u'};
+    RegWriteBinary(root, key.c_str(), "AI", truncated, sizeof truncated);
+    const std::vector<std::unique_ptr<ScheduleEntry>> jobs = LoadRegistryEntries();
+    ASSERT_EQ(jobs.size(), 1U);
+    EXPECT_EQ(jobs[0]->m_nStyle, 0);
+    EXPECT_EQ(jobs[0]->m_time.wMonth, 13);
+    EXPECT_EQ(jobs[0]->m_time.wDayOfWeek, 7);
+    EXPECT_EQ(jobs[0]->m_time.wHour, 0);
+    EXPECT_EQ(jobs[0]->m_strUser, "");
 }
 
 TEST_F(ScheduleRegistryTest, AKeyWithoutValuesGivesTheDefaults) {

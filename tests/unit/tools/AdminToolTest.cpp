@@ -108,9 +108,9 @@ TEST_F(AdminToolTest, RegistryValuesOfEachTypeRoundTrip) {
     const QString key = "Software\\Orvtek\\Q9CfgUL";
     EXPECT_EQ(Run({"registry", "set-dword", "HKLM", key, "Debug", "1"}).status, 0);
     EXPECT_EQ(Run({"registry", "get", "hklm", key, "debug"}).out, "0x00000001 (1)\n");
-    EXPECT_EQ(Run({"registry", "set-text", "HKCU", "NetWork\\/mnt/s", "RemotePath", "//srv/s"})
-                  .status,
-              0);
+    EXPECT_EQ(
+        Run({"registry", "set-text", "HKCU", "NetWork\\/mnt/s", "RemotePath", "//srv/s"}).status,
+        0);
     EXPECT_EQ(Run({"registry", "get", "HKCU", "NetWork\\/mnt/s", "RemotePath"}).out, "//srv/s\n");
     const Outcome dump = Run({"registry", "dump", "HKLM"});
     EXPECT_NE(dump.out.find("\"Debug\"=dword:00000001"), std::string::npos);
@@ -198,7 +198,9 @@ TEST_F(AdminToolTest, ScheduleListsBothHomesWithoutTheAccounts) {
               "  section 0x10000000: off, Whenever the system starts, Local hard drives, "
               "network account set\n"
               "registry:\n"
-              "  Q9SScan0: on, Whenever the system starts, Local hard drives\n");
+              // The job's network account is that of its store section.
+              "  Q9SScan0: on, Whenever the system starts, Local hard drives, network account "
+              "set\n");
     EXPECT_EQ(outcome.out.find("share-user"), std::string::npos);
 }
 
