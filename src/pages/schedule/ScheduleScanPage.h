@@ -23,9 +23,8 @@ public:
     CScheduleScanPage();
 
     void LoadEntry(ScheduleEntry* entry) override;
-    // Shows the entry's words; the page has no registrations.
+    // Shows the entry's words.
     void Load() override;
-    void Apply() override {}
     int32_t CanDefault() override { return 0; }
 
 protected:
