@@ -16,6 +16,7 @@
 #include "options/ScanProfile.h"
 #include "options/StoreValues.h"
 #include "schedule/AccountValue.h"
+#include "schedule/ScheduleJobs.h"
 #include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
 #include "targets/TargetRecords.h"
@@ -209,17 +210,14 @@ void ScheduleEntry::LoadJob(const std::string& key) {
 }
 
 int32_t ScheduleEntry::SaveToRegistry(int32_t number, int32_t on, uint32_t /*pageFlags*/) const {
-    const RegKey root = platform::LocalMachine();
-    const std::string key = ScheduleJobKey(number);
-    const std::pair<const char*, uint32_t> words[] = {
-        {"On", static_cast<uint32_t>(on)},  {"Style", static_cast<uint32_t>(m_nStyle)},
-        {"Year", m_time.wYear},             {"Month", m_time.wMonth},
-        {"Day", m_time.wDay},               {"DayOfWeek", m_time.wDayOfWeek},
-        {"Hour", m_time.wHour},             {"Minute", m_time.wMinute}};
-    for (const auto& [name, word] : words) RegWriteDword(root, key.c_str(), name, word);
-    RegWriteString(root, key.c_str(), "CmdLine",
-                   ScheduleRegistryCommandLine(SectionOf(number)).c_str());
-    RegWriteString(root, key.c_str(), "CurDir", g_szModuleDir.c_str());
+    const uint32_t section = SectionOf(number);
+    WriteScheduleJob({kScheduleJobPrefix + std::to_string(number),
+                      section,
+                      {static_cast<uint32_t>(on), static_cast<uint32_t>(m_nStyle), m_time.wYear,
+                       m_time.wMonth, m_time.wDay, m_time.wDayOfWeek, m_time.wHour,
+                       m_time.wMinute},
+                      ScheduleRegistryCommandLine(section),
+                      g_szModuleDir});
     std::string scratch;
     ReadAccountValue(number, scratch, scratch, 1);
     WriteAccountValue(m_strUser.c_str(), m_strPassword.c_str(), number);

@@ -10,6 +10,7 @@
 #include "beacon/WindowBeacon.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "policy/ConfigurationApply.h"
 #include "portblock/RuleFile.h"
 #include "q9cfgul.h"
 #include "session/DiagLog.h"
@@ -104,7 +105,7 @@ int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pa
                       const char* path1, const char* path2) {
     g_bInWizard = 0;
     if (flags & DMF_Silent) {
-        RunSilentPolicy(path1, path2, (flags & DMF_PolicyKeepMonitor) ? 0 : 1);
+        ApplyConfiguration(path1, path2, (flags & DMF_PolicyKeepMonitor) ? 0 : 1);
         Q9CfgE_SetDWEx(CES_General, CEK_ProtectLevel, g_nProtectLevel);
         return 1;
     }

@@ -22,6 +22,4 @@ int32_t RunSinglePage(uint64_t, uint32_t flags, int32_t page) {
     return dialog.DoModal();
 }
 
-void RunSilentPolicy(const char*, const char*, int32_t) {}
-
 void RunSilentWizard(uint32_t) {}

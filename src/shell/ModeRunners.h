@@ -12,7 +12,5 @@ int32_t RunConfigDialog(uint64_t parent, uint32_t flags, int32_t page, int32_t* 
 int32_t RunWizard(uint64_t parent, uint32_t flags);
 // Mode 2: one page in its own shell.
 int32_t RunSinglePage(uint64_t parent, uint32_t flags, int32_t page);
-// Silent mode 0: merge the policy and bring the product in line with the store.
-void RunSilentPolicy(const char* basePath, const char* policyPath, int32_t monitorFlag);
 // Silent mode 1: the wizard's settings without a window.
 void RunSilentWizard(uint32_t flags);

@@ -157,3 +157,21 @@ bool ApplyExclusions() {
     zone.Delete(kZoneOwnerTag, kZoneOwnerTag);
     return zone.Add(kZoneOwnerTag, kZoneOwnerTag, buffer.data()) == 1;
 }
+
+std::vector<ZoneRecord> SyncedZoneRecords(const std::vector<ZoneRecord>& zone) {
+    std::vector<ZoneRecord> records;
+    for (const ZoneRecord& record : zone) {
+        if (record.flags & kZoneFixed) records.push_back({record.inUse, record.flags, {}, record.path});
+    }
+    for (ZoneRecord& record : StoreRecords()) records.push_back(std::move(record));
+    return records;
+}
+
+bool SyncExclusionZone() {
+    ExclusionZone zone = g_Siblings.CreateExclusionZone();
+    if (zone.IsEmpty()) return false;
+    const std::optional<std::vector<ZoneRecord>> present = ReadZone();
+    const std::string buffer = EncodeZoneRecords(SyncedZoneRecords(present.value_or(std::vector<ZoneRecord>{})));
+    zone.Delete(kZoneOwnerTag, kZoneOwnerTag);
+    return zone.Add(kZoneOwnerTag, kZoneOwnerTag, buffer.data()) == 1;
+}

@@ -62,3 +62,12 @@ std::vector<ZoneRecord> ZoneRecordsFor(const ExclusionRecords& records);
 // Rewrites this product's records in the zone from the store (after the
 // store's commit). False when there is no zone library.
 bool ApplyExclusions();
+
+// The records the policy step leaves under this product's tag: the zone's
+// fixed records, then the store's list as the user's records. Derived and
+// user records of the zone are dropped, being rewritten from the store.
+std::vector<ZoneRecord> SyncedZoneRecords(const std::vector<ZoneRecord>& zone);
+
+// Rewrites this product's records in the zone by SyncedZoneRecords (other
+// products' records stay). False when there is no zone library.
+bool SyncExclusionZone();

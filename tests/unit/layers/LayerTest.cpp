@@ -33,7 +33,7 @@ const std::map<std::string, Layer> kLayers = {
     {"text", {1, QtUse::kCore}},         {"options", {2, QtUse::kCore}},
     {"portblock", {2, QtUse::kCore}},    {"session", {3, QtUse::kCore}},
     {"targets", {4, QtUse::kCore}},      {"schedule", {5, QtUse::kCore}},
-    {"framework", {6, QtUse::kWidgets}}, {"controls", {7, QtUse::kWidgets}},
+    {"policy", {6, QtUse::kCore}},       {"framework", {6, QtUse::kWidgets}}, {"controls", {7, QtUse::kWidgets}},
     {"pages", {8, QtUse::kWidgets}},     {"shell", {9, QtUse::kWidgets}},
 };
 

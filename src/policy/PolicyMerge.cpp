@@ -1,0 +1,56 @@
+#include "policy/PolicyMerge.h"
+
+#include "Q9CfgE.h"
+#include "session/ProcessState.h"
+
+namespace {
+
+// A store file opened apart, closed (and written) when the object goes.
+class OpenStoreFile {
+public:
+    explicit OpenStoreFile(const std::string& path)
+        : m_handle(Q9CfgE_Create(Q9CFGE_STYLE_FILE, path.c_str(), 0)) {}
+    ~OpenStoreFile() {
+        if (m_handle) Q9CfgE_Close(m_handle);
+    }
+    OpenStoreFile(const OpenStoreFile&) = delete;
+    OpenStoreFile& operator=(const OpenStoreFile&) = delete;
+
+    Q9CfgEHandle handle() const { return m_handle; }
+
+private:
+    Q9CfgEHandle m_handle;
+};
+
+void CopySection(Q9CfgEHandle policy, Q9CfgEHandle target, uint32_t section) {
+    for (uint16_t j = 0;; ++j) {
+        const uint32_t key = Q9CfgE_Enum(policy, section, j);
+        if (key == 0) return;
+        uint32_t type = 0;
+        Q9CfgE_SetStr(target, section, key, Q9CfgE_GetStr(policy, section, key, &type));
+        if (j == UINT16_MAX) return;
+    }
+}
+
+}  // namespace
+
+std::string PolicyTargetPath(const char* basePath) {
+    const std::string path =
+        (basePath && *basePath) ? std::string(basePath) : g_szModuleDir + kPolicyBaseFile;
+    return path.size() > kMaxPolicyPath ? std::string() : path;
+}
+
+bool MergePolicyFile(const std::string& targetPath, const std::string& policyPath) {
+    if (targetPath.empty() || policyPath.empty()) return false;
+    const OpenStoreFile target(targetPath);
+    if (!target.handle()) return false;
+    const OpenStoreFile policy(policyPath);
+    if (!policy.handle()) return false;
+    for (uint16_t i = 0;; ++i) {
+        const uint32_t section = Q9CfgE_Enum(policy.handle(), 0, i);
+        if (section == 0) break;
+        CopySection(policy.handle(), target.handle(), section);
+        if (i == UINT16_MAX) break;
+    }
+    return true;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+// Merging a policy file into a store file: every value of the policy
+// overwrites the target's, nothing is deleted. The store lists no section
+// numbered 0, so CES_General can never be merged.
+
+#include <cstddef>
+#include <string>
+
+// The longest path of a merge's target file.
+constexpr std::size_t kMaxPolicyPath = 260;
+
+// The base configuration that policies merge into when the caller names no
+// file of its own.
+constexpr const char* kPolicyBaseFile = "OrvIni.dat";
+
+// The target of a merge: basePath when it is not empty, else the base
+// configuration of the installation. Empty when the path is longer than
+// kMaxPolicyPath.
+std::string PolicyTargetPath(const char* basePath);
+
+// Copies every value of the policy file into the target file and writes the
+// target. False, with nothing written, when either file cannot be opened.
+// A target that cannot be parsed is reported and left as it is.
+bool MergePolicyFile(const std::string& targetPath, const std::string& policyPath);
