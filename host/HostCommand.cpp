@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
@@ -13,11 +15,19 @@
 
 namespace {
 
-enum Status { kCalled = 0, kBadCommand = 2, kNoLibrary = 4 };
+enum Status {
+    kCalled = 0,
+    kDiffChanges = 1,  // policy diff: something would change
+    kBadCommand = 2,
+    kNotApplied = 3,  // policy apply: the policy cannot be merged, nothing was called
+    kNoLibrary = 4,
+    kRefused = 5,  // policy apply: the library refused (no privilege, password)
+};
 
 using DoModalFn = int32_t(uint64_t, uint32_t, int32_t*, const char*, const char*);
 using MsgBoxFn = int32_t(int32_t, uint32_t);
 using ReportFn = int32_t();
+using PolicyDiffFn = int32_t(uint32_t, const char*, const char*, char*, uint32_t*);
 
 // What the command line asked for.
 struct Request {
@@ -31,6 +41,8 @@ struct Request {
     std::string library;
     int32_t kind = 0;     // msgbox
     uint32_t value = 0;   // msgbox
+    std::string policyAction;  // policy: "apply" or "diff"
+    bool json = false;         // policy diff
 };
 
 class BadCommand {
@@ -80,6 +92,8 @@ void ApplyOption(Request& request, const std::vector<std::string>& words, std::s
         request.path2 = OptionValue(words, i);
     } else if (option == "--library") {
         request.library = OptionValue(words, i);
+    } else if (option == "--json") {
+        request.json = true;
     } else {
         throw BadCommand("unknown option " + option);
     }
@@ -106,6 +120,23 @@ void ExpectOperands(const Request& request, std::size_t low, std::size_t high,
     }
 }
 
+// policy [apply|diff] FILE: a silent mode 0 call, or its dry run.
+void PreparePolicy(Request& request) {
+    std::vector<std::string>& operands = request.operands;
+    request.policyAction = "apply";
+    if (!operands.empty() && (operands[0] == "apply" || operands[0] == "diff")) {
+        request.policyAction = operands[0];
+        operands.erase(operands.begin());
+    }
+    ExpectOperands(request, 1, 1,
+                   "[apply|diff] POLICY-FILE (and --base FILE, --flags keep-monitor, --json)");
+    if (request.json && request.policyAction != "diff") {
+        throw BadCommand("--json goes with policy diff");
+    }
+    request.path2 = operands[0];
+    request.flags = (request.flags & ~DMF_ModeMask) | DMF_ModeDialog | DMF_Silent;
+}
+
 // The mode and operands of each DoModal command, folded into the request.
 void PrepareDoModal(Request& request) {
     if (request.command == "dialog") {
@@ -119,9 +150,7 @@ void PrepareDoModal(Request& request) {
         request.page = ParseInt32("page", request.operands[0]);
         request.flags = (request.flags & ~DMF_ModeMask) | DMF_ModeSinglePage;
     } else if (request.command == "policy") {
-        ExpectOperands(request, 1, 1, "POLICY-FILE (and --base FILE, --flags keep-monitor)");
-        request.path2 = request.operands[0];
-        request.flags = (request.flags & ~DMF_ModeMask) | DMF_ModeDialog | DMF_Silent;
+        PreparePolicy(request);
     } else {
         ExpectOperands(request, 0, 0, "no operands (the mode is the low byte of --flags)");
     }
@@ -162,6 +191,55 @@ int CallDoModal(const Library& library, Request& request, std::ostream& out) {
     return kCalled;
 }
 
+// The dry run's report and answer; nullopt without the entry point.
+struct DiffReport {
+    int32_t result = 0;
+    std::string text;
+};
+
+std::optional<DiffReport> RunPolicyDiff(const Library& library, const Request& request,
+                                        uint32_t diffFlags) {
+    auto* diff = library.Entry<PolicyDiffFn>("Q9CfgUL_PolicyDiff");
+    if (!diff) return std::nullopt;
+    uint32_t size = 0;
+    diff(diffFlags, NullIfEmpty(request.path1), request.path2.c_str(), nullptr, &size);
+    std::string text(size, '\0');
+    DiffReport report;
+    report.result =
+        diff(diffFlags, NullIfEmpty(request.path1), request.path2.c_str(), text.data(), &size);
+    text.resize(std::min<std::size_t>(std::strlen(text.c_str()), text.size()));
+    report.text = std::move(text);
+    return report;
+}
+
+int CallPolicyDiff(const Library& library, const Request& request, std::ostream& out) {
+    const std::optional<DiffReport> report =
+        RunPolicyDiff(library, request, request.json ? PDF_Json : 0u);
+    if (!report || report->result < 0) return -1;
+    out << report->text;
+    return report->result == 0 ? kCalled : kDiffChanges;
+}
+
+// Applies a policy the way an installer would: a policy that cannot be
+// merged is refused before anything is called, with the dry run's reason.
+int CallPolicyApply(const Library& library, Request& request, std::ostream& out,
+                    std::ostream& err) {
+    const std::optional<DiffReport> report = RunPolicyDiff(library, request, 0);
+    if (!report || report->result < 0) return -1;
+    const std::string first = report->text.substr(0, report->text.find('\n'));
+    if (first.starts_with("Not merged")) {
+        err << "q9cfg: the policy was not applied. " << first << "\n";
+        return kNotApplied;
+    }
+    auto* doModal = library.Entry<DoModalFn>("Q9CfgUL_DoModal");
+    if (!doModal) return -1;
+    const int32_t result =
+        doModal(request.parent, request.flags, nullptr, NullIfEmpty(request.path1),
+                request.path2.c_str());
+    out << "result: " << result << "\n";
+    return result == 1 ? kCalled : kRefused;
+}
+
 void PrepareMsgBox(Request& request) {
     ExpectOperands(request, 1, 2, "KIND [VALUE]");
     request.kind = ParseInt32("KIND", request.operands[0]);
@@ -189,6 +267,13 @@ bool IsDoModalCommand(const std::string& command) {
            command == "policy" || command == "domodal";
 }
 
+int CallDoModalCommand(const Library& library, Request& request, std::ostream& out,
+                       std::ostream& err) {
+    if (request.command != "policy") return CallDoModal(library, request, out);
+    return request.policyAction == "diff" ? CallPolicyDiff(library, request, out)
+                                          : CallPolicyApply(library, request, out, err);
+}
+
 }  // namespace
 
 std::string HostUsage() {
@@ -200,7 +285,11 @@ std::string HostUsage() {
            "  q9cfg dialog [--page N]        the configuration dialog (mode 0)\n"
            "  q9cfg wizard                   the configuration wizard (mode 1)\n"
            "  q9cfg page N                   one settings page (mode 2)\n"
-           "  q9cfg policy FILE [--base F]   apply a policy file silently\n"
+           "  q9cfg policy apply FILE [--base F] [--flags keep-monitor]\n"
+           "                                 apply a policy file silently, as an installer\n"
+           "                                 would (\"policy FILE\" is the same)\n"
+           "  q9cfg policy diff FILE [--base F] [--json]\n"
+           "                                 what an apply would change; changes nothing\n"
            "  q9cfg domodal --flags F [--page N] [--path1 P] [--path2 P]\n"
            "                                 Q9CfgUL_DoModal with exactly these arguments\n"
            "  q9cfg msgbox KIND [VALUE]      Q9CfgUL_MsgBox\n"
@@ -209,7 +298,9 @@ std::string HostUsage() {
            "Options: --flags F (names or numbers joined by ',' or '|': " +
            FlagNameList() +
            "), --parent WINDOW-ID, --path1 FILE, --library PATH.\n"
-           "Exit status: 0 the call was made, 2 bad command line, 4 no library or entry point.\n";
+           "Exit status: 0 the call was made, 2 bad command line, 4 no library or entry point;\n"
+           "policy diff: 0 nothing would change, 1 something would; policy apply: 0 applied,\n"
+           "3 the policy cannot be merged (nothing was called), 5 the library refused.\n";
 }
 
 int RunHostCommand(const std::vector<std::string>& words, const std::string& programDirectory,
@@ -237,7 +328,7 @@ int RunHostCommand(const std::vector<std::string>& words, const std::string& pro
             err << "q9cfg: cannot load " << path << ": " << dlerror() << "\n";
             return kNoLibrary;
         }
-        const int status = doModal                        ? CallDoModal(library, request, out)
+        const int status = doModal ? CallDoModalCommand(library, request, out, err)
                            : request.command == "msgbox" ? CallMsgBox(library, request, out)
                                                          : CallReport(library, out);
         if (status < 0) {

@@ -75,6 +75,25 @@ Q9CFGUL_API int32_t Q9CfgUL_Report(void);
  */
 Q9CFGUL_API int32_t WriteGeneralRuleFile(const void* records, int32_t count);
 
+/* Flags of Q9CfgUL_PolicyDiff. */
+#define PDF_Json                  0x00000001u /* the report as one JSON object instead of text */
+
+/*
+ * A dry run of a silent policy call: works out, changing nothing, what
+ * Q9CfgUL_DoModal(0, DMF_Silent, NULL, basePath, policyPath) would change
+ * (values, registered functions, exclusion zone records, scheduled scan
+ * keys) and writes a report of it. Enciphered values are shown only as
+ * changed.
+ *   flags      PDF_* bits
+ *   buffer     receives the report, NUL-terminated, when it fits into *size
+ *              bytes; null asks for the size only
+ *   size       in: the buffer's size; out: the bytes the report needs
+ * Returns 0 when nothing would change, 1 when something would, -1 when size
+ * is null.
+ */
+Q9CFGUL_API int32_t Q9CfgUL_PolicyDiff(uint32_t flags, const char* basePath,
+                                       const char* policyPath, char* buffer, uint32_t* size);
+
 #ifdef __cplusplus
 }
 #endif

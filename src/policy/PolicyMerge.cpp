@@ -22,13 +22,15 @@ private:
     Q9CfgEHandle m_handle;
 };
 
-void CopySection(Q9CfgEHandle policy, Q9CfgEHandle target, uint32_t section) {
+int CopySection(Q9CfgEHandle policy, Q9CfgEHandle target, uint32_t section) {
+    int copied = 0;
     for (uint16_t j = 0;; ++j) {
         const uint32_t key = Q9CfgE_Enum(policy, section, j);
-        if (key == 0) return;
+        if (key == 0) return copied;
         uint32_t type = 0;
         Q9CfgE_SetStr(target, section, key, Q9CfgE_GetStr(policy, section, key, &type));
-        if (j == UINT16_MAX) return;
+        ++copied;
+        if (j == UINT16_MAX) return copied;
     }
 }
 
@@ -40,17 +42,18 @@ std::string PolicyTargetPath(const char* basePath) {
     return path.size() > kMaxPolicyPath ? std::string() : path;
 }
 
-bool MergePolicyFile(const std::string& targetPath, const std::string& policyPath) {
-    if (targetPath.empty() || policyPath.empty()) return false;
+int MergePolicyFile(const std::string& targetPath, const std::string& policyPath) {
+    if (targetPath.empty() || policyPath.empty()) return -1;
     const OpenStoreFile target(targetPath);
-    if (!target.handle()) return false;
+    if (!target.handle()) return -1;
     const OpenStoreFile policy(policyPath);
-    if (!policy.handle()) return false;
+    if (!policy.handle()) return -1;
+    int copied = 0;
     for (uint16_t i = 0;; ++i) {
         const uint32_t section = Q9CfgE_Enum(policy.handle(), 0, i);
         if (section == 0) break;
-        CopySection(policy.handle(), target.handle(), section);
+        copied += CopySection(policy.handle(), target.handle(), section);
         if (i == UINT16_MAX) break;
     }
-    return true;
+    return copied;
 }

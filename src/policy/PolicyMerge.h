@@ -20,6 +20,8 @@ constexpr const char* kPolicyBaseFile = "OrvIni.dat";
 std::string PolicyTargetPath(const char* basePath);
 
 // Copies every value of the policy file into the target file and writes the
-// target. False, with nothing written, when either file cannot be opened.
-// A target that cannot be parsed is reported and left as it is.
-bool MergePolicyFile(const std::string& targetPath, const std::string& policyPath);
+// target. Answers the number of values copied, or -1, with nothing written,
+// when either file cannot be opened. A policy file that cannot be parsed
+// holds no values; a target that cannot be parsed is reported and left as
+// it is.
+int MergePolicyFile(const std::string& targetPath, const std::string& policyPath);

@@ -31,8 +31,6 @@ uint16_t Field(uint32_t section, uint32_t key) {
 
 bool HoldsEntry(uint32_t section) { return !ReadStoreText(section, CEK_SchedCurDir).empty(); }
 
-constexpr const char* kAccountValueName = "AI";
-
 bool IsJobName(const std::string& name) {
     const std::size_t length = std::strlen(kScheduleJobPrefix);
     return name.size() >= length &&

@@ -57,6 +57,9 @@ std::string ScheduleStoreCommandLine(uint32_t section);
 // the section as holding an entry.
 constexpr const char* kScheduleStoreDirectory = "%Q9%";
 
+// The value of a job's key that holds its run-as account, scrambled.
+constexpr const char* kAccountValueName = "AI";
+
 // The scheduler's jobs, below HKEY_LOCAL_MACHINE; this product's are the
 // subkeys whose names start with kScheduleJobPrefix (any case).
 constexpr const char* kScheduleKey = "Software\\ORVTEK\\OrvSD\\Schedule";

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,13 @@ struct ScheduleJobPlan {
 // Writes the job's DWORD and text values into its key (made when missing);
 // other values of the key stay.
 void WriteScheduleJob(const ScheduleJob& job);
+
+// The job key of that name as it stands; nullopt when the key or any of the
+// values a job is written with is missing.
+std::optional<ScheduleJob> ReadScheduleJob(const std::string& name);
+
+// Whether the job key holds a run-as account.
+bool ScheduleJobHasAccount(const std::string& name);
 
 // Reads the schedule sections from number 0 up to the first whose working
 // folder is empty. On an NT host a section's scan options gain the bits

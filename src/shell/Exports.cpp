@@ -1,7 +1,9 @@
 // The exported entry points of libQ9CfgUL.so (declared in include/q9cfgul.h).
 // No exception crosses this border: a failure inside becomes the result the
 // caller would get for a request that could not be carried out.
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <cstdint>
 #include <exception>
 #include <limits>
@@ -10,7 +12,9 @@
 #include "beacon/WindowBeacon.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
-#include "policy/ConfigurationApply.h"
+#include "policy/PolicyPlan.h"
+#include "policy/PolicyReport.h"
+#include "policy/RecordedApply.h"
 #include "portblock/RuleFile.h"
 #include "q9cfgul.h"
 #include "session/DiagLog.h"
@@ -105,7 +109,7 @@ int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pa
                       const char* path1, const char* path2) {
     g_bInWizard = 0;
     if (flags & DMF_Silent) {
-        ApplyConfiguration(path1, path2, (flags & DMF_PolicyKeepMonitor) ? 0 : 1);
+        ApplyPolicyRecorded(path1, path2, (flags & DMF_PolicyKeepMonitor) ? 0 : 1);
         Q9CfgE_SetDWEx(CES_General, CEK_ProtectLevel, g_nProtectLevel);
         return 1;
     }
@@ -173,6 +177,14 @@ int32_t DoModal(uint64_t parent, uint32_t flags, int32_t* pageInOut, const char*
     return RunMode(parent, flags, page, pageInOut, path1, path2);
 }
 
+// The report and its NUL into buffer when it fits; *size becomes the bytes
+// needed.
+void CopyReport(const std::string& report, char* buffer, uint32_t* size) {
+    const std::size_t needed = report.size() + 1;
+    if (buffer && needed <= *size) std::memcpy(buffer, report.c_str(), needed);
+    *size = static_cast<uint32_t>(std::min<std::size_t>(needed, UINT32_MAX));
+}
+
 }  // namespace
 
 extern "C" {
@@ -192,6 +204,21 @@ Q9CFGUL_API int32_t Q9CfgUL_MsgBox(int32_t kind, uint32_t value) {
 }
 
 Q9CFGUL_API int32_t Q9CfgUL_Report(void) { return 1; }
+
+Q9CFGUL_API int32_t Q9CfgUL_PolicyDiff(uint32_t flags, const char* basePath,
+                                       const char* policyPath, char* buffer, uint32_t* size) {
+    return Guarded(-1, [&] {
+        if (!size) return int32_t{-1};
+        const CSession session(CSession::kSilent);
+        if (basePath && *basePath) Q9CfgE_SetStyleEx(kStyleNamedFile, basePath, 0);
+        const PolicyPlan plan = PlanConfiguration(basePath, policyPath);
+        const std::string policy = policyPath ? policyPath : "";
+        const std::string report =
+            (flags & PDF_Json) ? PlanJson(plan, policy) : PlanText(plan, policy);
+        CopyReport(report, buffer, size);
+        return int32_t{plan.ChangesSomething() ? 1 : 0};
+    });
+}
 
 Q9CFGUL_API int32_t WriteGeneralRuleFile(const void* records, int32_t count) {
     return Guarded(0, [&] {

@@ -14,9 +14,14 @@
 #include "common/InstallDirectory.h"
 #include "options/StoreKeys.h"
 #include "platform/Registry.h"
+#include "policy/PolicyHistory.h"
+#include "policy/PolicyReport.h"
+#include "policy/RecordedApply.h"
 #include "schedule/ScheduleEntry.h"
 #include "schedule/ScheduleText.h"
+#include "session/DiagLog.h"
 #include "session/ProcessState.h"
+#include "session/SiblingLibs.h"
 #include "session/RegistryHelpers.h"
 #include "targets/ExclusionMatch.h"
 #include "targets/ExclusionStore.h"
@@ -342,6 +347,53 @@ int Schedule(Context& context) {
     return kDone;
 }
 
+void PrintHistoryEntry(Context& context, const HistoryEntry& entry) {
+    context.out << "#" << entry.number << " " << entry.kind;
+    if (entry.undoes > 0) context.out << " of #" << entry.undoes;
+    context.out << ", " << entry.time << ", " << entry.user << "\n";
+    if (!entry.policy.empty()) {
+        context.out << "  policy " << entry.policy << " (sha256 "
+                    << (entry.sha256.empty() ? "unreadable" : entry.sha256) << ")\n";
+    }
+    if (!entry.base.empty()) context.out << "  base " << entry.base << "\n";
+    if (entry.values.empty()) context.out << "  no value changed\n";
+    for (const ValueChange& change : entry.values) {
+        context.out << "  " << change.file << ": " << ValueChangeText(change) << "\n";
+    }
+}
+
+// Every silent apply and undo recorded in the installation, oldest first.
+int PolicyHistoryList(Context& context) {
+    InitProcessState();
+    int problems = 0;
+    const std::vector<HistoryEntry> entries = PolicyHistory(g_szModuleDir).Read(&problems);
+    if (entries.empty()) context.out << "no policy applied yet\n";
+    for (const HistoryEntry& entry : entries) PrintHistoryEntry(context, entry);
+    if (problems > 0) {
+        context.err << "q9admin: " << problems << " lines of the policy history cannot be read\n";
+    }
+    return kDone;
+}
+
+// Puts back what the last recorded apply changed.
+int PolicyUndo(Context& context) {
+    InitProcessState();
+    g_Log.Open(CDiagLog::kDefaultPath);
+    if (g_Siblings.HasEnoughPrivilege() == 0) {
+        context.err << "q9admin: not allowed to change the product's registrations\n";
+        return kRefused;
+    }
+    const UndoResult result = UndoLastApply();
+    g_Siblings.Release();
+    switch (result.status) {
+        case UndoStatus::kDone: context.out << result.message << "\n"; return kDone;
+        case UndoStatus::kNothingToUndo: context.err << "q9admin: " << result.message << "\n"; return kAbsent;
+        case UndoStatus::kCopyMissing: break;
+    }
+    context.err << "q9admin: " << result.message << "\n";
+    return kRefused;
+}
+
 int Journal(Context& context) {
     return PrintFile(context, sibling::InstallFile("Q9SSCtrl.journal"),
                      "registration journal yet");
@@ -368,6 +420,8 @@ const std::vector<Verb>& Verbs() {
         {"zone", "", "", 0, 0, Zone},
         {"schedule", "", "", 0, 0, Schedule},
         {"exclusions", "test", "PATH", 1, 1, ExclusionsTest},
+        {"policy", "history", "", 0, 0, PolicyHistoryList},
+        {"policy", "undo", "", 0, 0, PolicyUndo},
     };
     return verbs;
 }
