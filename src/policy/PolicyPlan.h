@@ -9,6 +9,7 @@
 // the same merge, the same switch rule, the same zone records and the same
 // job plan.
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -63,8 +64,14 @@ struct PolicyPlan {
     std::vector<ZoneChange> zone;
     std::vector<JobChange> jobs;
 
+    // A function that cannot be registered changes nothing of its own: its
+    // bit, if set, shows among the values.
     bool ChangesSomething() const {
-        return !values.empty() || !functions.empty() || !zone.empty() || !jobs.empty();
+        const bool functionChanges =
+            std::any_of(functions.begin(), functions.end(), [](const FunctionChange& change) {
+                return change.action != FunctionAction::kCannotRegister;
+            });
+        return !values.empty() || functionChanges || !zone.empty() || !jobs.empty();
     }
 };
 

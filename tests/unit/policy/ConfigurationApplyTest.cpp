@@ -20,7 +20,7 @@
 #include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
 #include "session/SiblingLibs.h"
-#include "support/SiblingTest.h"
+#include "PolicyTest.h"
 #include "support/TemporaryRegistry.h"
 #include "targets/ExclusionList.h"
 #include "targets/ExclusionStore.h"
@@ -28,78 +28,9 @@
 namespace {
 
 constexpr char kOtherOwner[] = "OtherProduct";
-constexpr uint32_t kFirstEntry = 0x10000000;
+constexpr uint32_t kFirstEntry = CES_Schedule;
 
-class ConfigurationApplyTest : public SiblingTest {
-protected:
-    ConfigurationApplyTest() : m_savedWinNT(g_bWinNT) {
-        AddSibling("Q9SSCtrl");
-        AddSibling("OrvDMZ");
-        g_bWinNT = 0;
-    }
-    ~ConfigurationApplyTest() override { g_bWinNT = m_savedWinNT; }
-
-    // The journal's lines of calls that change or ask about registrations,
-    // and the notice.
-    std::vector<std::string> Calls() const {
-        std::vector<std::string> calls = Journal();
-        std::erase_if(calls, [](const std::string& line) {
-            return line.starts_with("Q9SSCtrl_HasEnoughPrivilege") ||
-                   line.starts_with("Q9SSCtrl_IsRegistered");
-        });
-        return calls;
-    }
-
-    static void AddStoreEntry(uint32_t index, uint32_t hour) {
-        const uint32_t section = kFirstEntry | index;
-        SetWord(section, CEK_SchedOn, 1);
-        SetWord(section, CEK_SchedStyle, 2);
-        SetWord(section, CEK_SchedDayOfWeek, 3);
-        SetWord(section, CEK_SchedHour, hour);
-        SetWord(section, CEK_SchedMinute, 15);
-        ASSERT_EQ(Q9CfgE_SetStrEx(section, CEK_SchedCurDir, "%Q9%"), 1);
-    }
-
-    static std::vector<std::string> JobKeys() {
-        std::vector<std::string> names;
-        for (uint32_t i = 0;; ++i) {
-            std::string name = RegSubkeyName(platform::LocalMachine(), kScheduleKey, i);
-            if (name.empty()) return names;
-            names.push_back(std::move(name));
-        }
-    }
-
-    static uint32_t JobWord(const std::string& job, const char* value) {
-        return RegReadDword(platform::LocalMachine(), RegJoinPath(kScheduleKey, job).c_str(),
-                            value, 0xDEAD);
-    }
-
-    static void AddJobKey(const char* name) {
-        RegWriteDword(platform::LocalMachine(), RegJoinPath(kScheduleKey, name).c_str(), "On", 1);
-    }
-
-    static void PutInZone(const char* owner, const std::vector<ZoneRecord>& records) {
-        ExclusionZone zone = g_Siblings.CreateExclusionZone();
-        ASSERT_FALSE(zone.IsEmpty());
-        const std::string buffer = EncodeZoneRecords(records);
-        ASSERT_EQ(zone.Add(owner, owner, buffer.data()), 1);
-    }
-
-    static void AddStoreExclusion(uint8_t kind, const std::string& path) {
-        const std::string record = PackObjectRecord(kind, path);
-        const auto count = static_cast<uint16_t>(ReadObjectList(CES_Exclude).size());
-        ASSERT_EQ(Q9CfgE_SetObjectList(CES_Exclude, count, record.data()), 1);
-    }
-
-    std::string StoreFileText(const std::string& body) const {
-        return "Q9 Configuration Store 1\n" + body;
-    }
-
-    TemporaryRegistry m_registry;
-
-private:
-    int32_t m_savedWinNT;
-};
+using ConfigurationApplyTest = PolicyTest;
 
 const std::string kUnregisterAll = "5000 2";
 
