@@ -41,6 +41,10 @@ void MergePolicy(const char* basePath, const char* policyPath) {
                     kMaxPolicyPath);
         return;
     }
+    if (PolicyTooLarge(policyPath)) {
+        g_Log.Write("policy not merged: the file is larger than %ju bytes", kMaxPolicyBytes);
+        return;
+    }
     MergePolicyFile(target, policyPath);
 }
 

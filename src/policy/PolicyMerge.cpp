@@ -1,5 +1,7 @@
 #include "policy/PolicyMerge.h"
 
+#include <filesystem>
+
 #include "Q9CfgE.h"
 #include "session/ProcessState.h"
 
@@ -42,8 +44,14 @@ std::string PolicyTargetPath(const char* basePath) {
     return path.size() > kMaxPolicyPath ? std::string() : path;
 }
 
+bool PolicyTooLarge(const std::string& path) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return !error && size > kMaxPolicyBytes;
+}
+
 int MergePolicyFile(const std::string& targetPath, const std::string& policyPath) {
-    if (targetPath.empty() || policyPath.empty()) return -1;
+    if (targetPath.empty() || policyPath.empty() || PolicyTooLarge(policyPath)) return -1;
     const OpenStoreFile target(targetPath);
     if (!target.handle()) return -1;
     const OpenStoreFile policy(policyPath);

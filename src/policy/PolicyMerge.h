@@ -5,10 +5,18 @@
 // numbered 0, so CES_General can never be merged.
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 // The longest path of a merge's target file.
 constexpr std::size_t kMaxPolicyPath = 260;
+
+// The largest policy file merged: a store file of every section and key
+// the product has is a few hundred KiB.
+constexpr std::uintmax_t kMaxPolicyBytes = 16u << 20;
+
+// Whether the file at path is larger than kMaxPolicyBytes.
+bool PolicyTooLarge(const std::string& path);
 
 // The base configuration that policies merge into when the caller names no
 // file of its own.
@@ -21,7 +29,7 @@ std::string PolicyTargetPath(const char* basePath);
 
 // Copies every value of the policy file into the target file and writes the
 // target. Answers the number of values copied, or -1, with nothing written,
-// when either file cannot be opened. A policy file that cannot be parsed
+// when either file cannot be opened or the policy is too large. A policy file that cannot be parsed
 // holds no values; a target that cannot be parsed is reported and left as
 // it is.
 int MergePolicyFile(const std::string& targetPath, const std::string& policyPath);

@@ -56,6 +56,7 @@ MergeOutcome PlanMerge(const char* policyPath, const std::string& target,
                        const std::string& targetCopy) {
     if (!policyPath || !*policyPath) return MergeOutcome::kNoPolicy;
     if (target.empty()) return MergeOutcome::kBaseTooLong;
+    if (PolicyTooLarge(policyPath)) return MergeOutcome::kTooLarge;
     if (!CopyStoreFile(target, targetCopy)) return MergeOutcome::kNotOpened;
     const int merged = MergePolicyFile(targetCopy, policyPath);
     if (merged < 0) return MergeOutcome::kNotOpened;

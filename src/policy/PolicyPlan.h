@@ -24,6 +24,7 @@ enum class MergeOutcome {
     kBaseTooLong,  // the target's path is longer than kMaxPolicyPath
     kNotOpened,    // the policy or the target could not be opened
     kNoValues,     // the policy holds no value the store can read
+    kTooLarge,     // the policy file is larger than kMaxPolicyBytes
 };
 
 enum class FunctionAction {

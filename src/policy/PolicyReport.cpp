@@ -39,6 +39,9 @@ std::string MergeText(const PolicyPlan& plan, const std::string& policyPath) {
         case MergeOutcome::kNoValues:
             return "Not merged: " + policyPath +
                    " holds no value to merge (it is empty or no store file).";
+        case MergeOutcome::kTooLarge:
+            return "Not merged: " + policyPath + " is larger than " +
+                   std::to_string(kMaxPolicyBytes >> 20) + " MiB.";
     }
     return {};
 }
@@ -50,6 +53,7 @@ const char* MergeName(MergeOutcome outcome) {
         case MergeOutcome::kBaseTooLong: return "base path too long";
         case MergeOutcome::kNotOpened: return "cannot be opened";
         case MergeOutcome::kNoValues: return "no values";
+        case MergeOutcome::kTooLarge: return "too large";
     }
     return "";
 }

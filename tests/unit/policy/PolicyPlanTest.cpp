@@ -255,6 +255,10 @@ TEST_F(PolicyPlanTest, APolicyThatHoldsNoValueIsReportedAsSuch) {
     std::filesystem::create_directory(Install().PathOf("folder.dat"));
     EXPECT_EQ(PlanConfiguration(nullptr, Install().PathOf("folder.dat").c_str()).merge,
               MergeOutcome::kNotOpened);
+    std::filesystem::resize_file(Install().PathOf("policy.dat"), kMaxPolicyBytes + 1);
+    EXPECT_EQ(PlanConfiguration(nullptr, PolicyPath().c_str()).merge, MergeOutcome::kTooLarge);
+    EXPECT_EQ(MergePolicyFile(Install().PathOf("base.dat"), PolicyPath()), -1);
+    EXPECT_FALSE(Install().Exists("base.dat"));
     const std::string longBase(kMaxPolicyPath + 1, 'b');
     Install().Write("policy.dat", StoreFileText("[CES_Macro]\nCEK_MacroOptions=dword:00000005\n"));
     EXPECT_EQ(PlanConfiguration(longBase.c_str(), PolicyPath().c_str()).merge,
