@@ -35,7 +35,7 @@ void ApplyGroup(const PolicySwitchGroup& group, const PolicySwitchWords& words,
 
 void MergePolicy(const char* basePath, const char* policyPath) {
     if (!policyPath || !*policyPath) return;
-    const std::string target = PolicyTargetPath(basePath);
+    const std::string target = PolicyTargetPath(basePath, g_szModuleDir);
     if (target.empty()) {
         g_Log.Write("policy not merged: the base path is longer than %zu characters",
                     kMaxPolicyPath);

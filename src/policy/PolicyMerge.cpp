@@ -3,7 +3,6 @@
 #include <filesystem>
 
 #include "Q9CfgE.h"
-#include "session/ProcessState.h"
 
 namespace {
 
@@ -38,9 +37,9 @@ int CopySection(Q9CfgEHandle policy, Q9CfgEHandle target, uint32_t section) {
 
 }  // namespace
 
-std::string PolicyTargetPath(const char* basePath) {
+std::string PolicyTargetPath(const char* basePath, const std::string& installDirectory) {
     const std::string path =
-        (basePath && *basePath) ? std::string(basePath) : g_szModuleDir + kPolicyBaseFile;
+        (basePath && *basePath) ? std::string(basePath) : installDirectory + kPolicyBaseFile;
     return path.size() > kMaxPolicyPath ? std::string() : path;
 }
 

@@ -23,9 +23,9 @@ bool PolicyTooLarge(const std::string& path);
 constexpr const char* kPolicyBaseFile = "OrvIni.dat";
 
 // The target of a merge: basePath when it is not empty, else the base
-// configuration of the installation. Empty when the path is longer than
-// kMaxPolicyPath.
-std::string PolicyTargetPath(const char* basePath);
+// configuration of the installation in installDirectory (ending in '/').
+// Empty when the path is longer than kMaxPolicyPath.
+std::string PolicyTargetPath(const char* basePath, const std::string& installDirectory);
 
 // Copies every value of the policy file into the target file and writes the
 // target. Answers the number of values copied, or -1, with nothing written,

@@ -161,7 +161,7 @@ std::string SessionStorePath(const char* basePath) {
 
 PolicyPlan PlanConfiguration(const char* basePath, const char* policyPath) {
     PolicyPlan plan;
-    plan.target = PolicyTargetPath(basePath);
+    plan.target = PolicyTargetPath(basePath, g_szModuleDir);
     const std::string session = SessionStorePath(basePath);
     const std::string storeFile = session.empty() ? g_szModuleDir + kLiveStoreFile : session;
     const ScratchFolder scratch;

@@ -126,7 +126,7 @@ void ApplyPolicyRecorded(const char* basePath, const char* policyPath, int32_t m
     const std::string session = SessionStorePath(basePath);
     std::vector<std::string> files{StoreFileOf(session)};
     const bool hasPolicy = policyPath && *policyPath;
-    const std::string target = PolicyTargetPath(basePath);
+    const std::string target = PolicyTargetPath(basePath, g_szModuleDir);
     if (hasPolicy && !target.empty()) files.push_back(target);
 
     HistoryEntry entry;

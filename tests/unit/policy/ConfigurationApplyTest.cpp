@@ -190,8 +190,8 @@ TEST_F(ConfigurationApplyTest, ABasePathLongerThanTheLimitIsNotMerged) {
     Install().Write("policy.dat", StoreFileText("[CES_Macro]\nCEK_MacroOptions=dword:00000005\n"));
     ApplyConfiguration(base.c_str(), Install().PathOf("policy.dat").c_str(), 1);
     EXPECT_FALSE(std::filesystem::exists(base));
-    EXPECT_EQ(PolicyTargetPath(base.c_str()), "");
-    EXPECT_EQ(PolicyTargetPath(base.substr(1).c_str()), base.substr(1));
+    EXPECT_EQ(PolicyTargetPath(base.c_str(), g_szModuleDir), "");
+    EXPECT_EQ(PolicyTargetPath(base.substr(1).c_str(), g_szModuleDir), base.substr(1));
     EXPECT_EQ(Calls().back(), JournalLine("Q9SSCtrl_SetCfgChanged", 32, "", 1));
 }
 
