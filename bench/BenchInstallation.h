@@ -17,6 +17,10 @@ public:
     // False when the build's Q9SSCtrl could not be loaded.
     bool Ready() const { return m_ready; }
 
+    // The installation's folder (store, journal, zone), without a '/' at
+    // the end.
+    const std::string& Directory() const { return m_directory; }
+
 private:
     std::string m_directory;
     std::string m_savedModuleDir;
