@@ -77,12 +77,7 @@ TEST_F(ConfigurationApplyTest, MasksOfZeroRegisterAndStopNothingYetZoneAndSchedu
 }
 
 TEST_F(ConfigurationApplyTest, EveryMaskedFunctionIsRegisteredOrStoppedInTheFixedOrder) {
-    SetWord(CES_Switch, CEK_Switch_Scan, 0x10 | 0x1 | 0x8 | 0x80);
-    SetWord(CES_Switch, CEK_Switch_ScanMask, 0xFF);
-    SetWord(CES_Switch, CEK_Switch_ScanMail, 0x1000);
-    SetWord(CES_Switch, CEK_Switch_ScanMailMask, 0xF000);
-    SetWord(CES_Switch, CEK_Switch_General, 0x200000);
-    SetWord(CES_Switch, CEK_Switch_GeneralMask, 0x300000);
+    SetSwitchWords(0x10 | 0x1 | 0x8 | 0x80, 0xFF, 0x1000, 0xF000, 0x200000, 0x300000);
     ApplyConfiguration(nullptr, nullptr, 1);
 
     const auto on = [](int32_t item) {
@@ -282,12 +277,7 @@ TEST_F(ConfigurationApplyTest, TheDiagnosticLogHoldsEveryStepInItsOrder) {
                             1),
               0);
     g_Log.Open(logPath);
-    SetWord(CES_Switch, CEK_Switch_Scan, 17);
-    SetWord(CES_Switch, CEK_Switch_ScanMask, 255);
-    SetWord(CES_Switch, CEK_Switch_ScanMail, 4096);
-    SetWord(CES_Switch, CEK_Switch_ScanMailMask, 61440);
-    SetWord(CES_Switch, CEK_Switch_General, 1048576);
-    SetWord(CES_Switch, CEK_Switch_GeneralMask, 3145728);
+    SetSwitchWords(17, 255, 4096, 61440, 1048576, 3145728);
     ApplyConfiguration(nullptr, nullptr, 1);
     RegDeleteTree(platform::LocalMachine(), "Software\\Orvtek", "Q9CfgUL");
     g_Log.Open(savedPath);

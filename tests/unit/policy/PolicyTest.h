@@ -43,6 +43,17 @@ protected:
         return calls;
     }
 
+    // The three switch words and their masks.
+    static void SetSwitchWords(uint32_t scan, uint32_t scanMask, uint32_t mail, uint32_t mailMask,
+                               uint32_t general, uint32_t generalMask) {
+        SetWord(CES_Switch, CEK_Switch_Scan, scan);
+        SetWord(CES_Switch, CEK_Switch_ScanMask, scanMask);
+        SetWord(CES_Switch, CEK_Switch_ScanMail, mail);
+        SetWord(CES_Switch, CEK_Switch_ScanMailMask, mailMask);
+        SetWord(CES_Switch, CEK_Switch_General, general);
+        SetWord(CES_Switch, CEK_Switch_GeneralMask, generalMask);
+    }
+
     static void AddStoreEntry(uint32_t index, uint32_t hour) {
         const uint32_t section = ScheduleSection(index);
         SetWord(section, CEK_SchedOn, 1);
