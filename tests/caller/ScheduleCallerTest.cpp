@@ -25,6 +25,7 @@
 #include "DialogDriver.h"
 #include "Q9CfgE.h"
 #include "q9cfgul.h"
+#include "support/TemporaryRegistry.h"
 #include "support/TestPaths.h"
 
 namespace schedule_caller_test {
@@ -40,6 +41,8 @@ constexpr int kAddTarget = 1016;
 // directory's), relative to the installation, and the machine's hive in it.
 constexpr const char* kHives = "../hives";
 constexpr const char* kHive = "../hives/HKLM.reg";
+// The diagnostic log's file, which the library writes wherever it lies.
+constexpr const char* kDiagLog = "/tmp/q9cfgul.log";
 
 void Click(QDialog* dialog, int id) {
     auto* button = DialogDriver::Find<QAbstractButton>(dialog, id);
@@ -152,11 +155,16 @@ TEST_F(ScheduleCallerTest, AWeeklyScanAddedThroughTheWizardStandsInBothHomes) {
 }
 
 // The accounts of a scheduled scan entered through the authorization dialog:
-// neither password stands in clear in the hive or the store file, and both
-// files are their owner's only.
+// neither password stands in clear in the hive or the store file, both
+// files are their owner's only, and the diagnostic log, switched on for the
+// session, never holds them (a silent apply afterwards shows it was on).
 TEST_F(ScheduleCallerTest, PasswordsStandInTheirFilesOnlyScrambledOrEnciphered) {
     const std::string runPassword = "Run-Pw-7q3x";
     const std::string netPassword = "Net-Pw-9k2v";
+    caller->install.Write(kHive, Hive() +
+                                     "\n[HKEY_LOCAL_MACHINE\\Software\\Orvtek\\Q9CfgUL]\n"
+                                     "\"Debug\"=dword:00000001\n");
+    const std::string logBefore = TemporaryRegistry::ReadFile(kDiagLog);
     Session([&runPassword, &netPassword](QDialog* dialog) {
         QTimer::singleShot(50, [&runPassword, &netPassword] {
             auto* wizard = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -192,6 +200,14 @@ TEST_F(ScheduleCallerTest, PasswordsStandInTheirFilesOnlyScrambledOrEnciphered) 
         struct stat status {};
         ASSERT_EQ(stat(caller->install.PathOf(file).c_str(), &status), 0) << file;
         EXPECT_EQ(status.st_mode & 0777, 0600U) << file;
+    }
+    EXPECT_EQ(doModal(0, DMF_Silent, nullptr, nullptr, nullptr), 1);
+    const std::string log = TemporaryRegistry::ReadFile(kDiagLog);
+    ASSERT_GT(log.size(), logBefore.size());
+    const std::string written = log.substr(logBefore.size());
+    EXPECT_NE(written.find("After DMZ"), std::string::npos) << written;
+    for (const std::string& secret : {runPassword, netPassword}) {
+        EXPECT_EQ(written.find(secret), std::string::npos) << secret;
     }
 }
 
