@@ -2,12 +2,8 @@
 
 #include <Q9CfgE.h>
 
-#include <strings.h>
-
 #include <QDateTime>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -30,18 +26,6 @@ uint16_t Field(uint32_t section, uint32_t key) {
 }
 
 bool HoldsEntry(uint32_t section) { return !ReadStoreText(section, CEK_SchedCurDir).empty(); }
-
-bool IsJobName(const std::string& name) {
-    const std::size_t length = std::strlen(kScheduleJobPrefix);
-    return name.size() >= length &&
-           strncasecmp(name.c_str(), kScheduleJobPrefix, length) == 0;
-}
-
-// The number behind a job key's prefix; 0 where none stands.
-int32_t JobNumber(const std::string& name) {
-    return static_cast<int32_t>(std::strtol(name.c_str() + std::strlen(kScheduleJobPrefix),
-                                            nullptr, 10));
-}
 
 }  // namespace
 
@@ -182,10 +166,6 @@ std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries() {
 
 // --- The registry home -------------------------------------------------------
 
-std::string ScheduleJobKey(int32_t number) {
-    return RegJoinPath(kScheduleKey, kScheduleJobPrefix + std::to_string(number));
-}
-
 std::string ScheduleRegistryCommandLine(uint32_t section) {
     char number[16];
     std::snprintf(number, sizeof number, "%x", section);
@@ -193,18 +173,15 @@ std::string ScheduleRegistryCommandLine(uint32_t section) {
 }
 
 void ScheduleEntry::LoadJob(const std::string& key) {
-    const RegKey root = platform::LocalMachine();
-    const auto read = [&](const char* value, uint32_t def) {
-        return RegReadDword(root, key.c_str(), value, def);
-    };
-    m_bOn = static_cast<int32_t>(read("On", 0));
-    m_nStyle = static_cast<int32_t>(read("Style", 0));
-    m_time.wYear = static_cast<uint16_t>(read("Year", 2000));
-    m_time.wMonth = static_cast<uint16_t>(read("Month", 1));
-    m_time.wDay = static_cast<uint16_t>(read("Day", 1));
-    m_time.wDayOfWeek = static_cast<uint16_t>(read("DayOfWeek", 0));
-    m_time.wHour = static_cast<uint16_t>(read("Hour", 0));
-    m_time.wMinute = static_cast<uint16_t>(read("Minute", 0));
+    const ScheduleJobWords words = ReadScheduleJobWords(key);
+    m_bOn = static_cast<int32_t>(words[0]);
+    m_nStyle = static_cast<int32_t>(words[1]);
+    m_time.wYear = static_cast<uint16_t>(words[2]);
+    m_time.wMonth = static_cast<uint16_t>(words[3]);
+    m_time.wDay = static_cast<uint16_t>(words[4]);
+    m_time.wDayOfWeek = static_cast<uint16_t>(words[5]);
+    m_time.wHour = static_cast<uint16_t>(words[6]);
+    m_time.wMinute = static_cast<uint16_t>(words[7]);
 }
 
 int32_t ScheduleEntry::SaveToRegistry(int32_t number, int32_t on, uint32_t /*pageFlags*/) const {
@@ -224,20 +201,14 @@ int32_t ScheduleEntry::SaveToRegistry(int32_t number, int32_t on, uint32_t /*pag
 
 int32_t ScheduleEntry::ReadAccountValue(int32_t number, std::string& user, std::string& password,
                                         int32_t deleteAfter) {
-    const RegKey root = platform::LocalMachine();
-    const std::string key = ScheduleJobKey(number);
-    const uint32_t size = RegReadBinary(root, key.c_str(), kAccountValueName, nullptr, 0);
-    if (size == 0) return 0;
-    std::string bytes(size, '\0');
-    if (RegReadBinary(root, key.c_str(), kAccountValueName, bytes.data(), size) != size) return 0;
-    const std::optional<AccountValue> account = ParseAccountValue(bytes.data(), bytes.size());
+    const std::optional<AccountValue> account = ReadScheduleJobAccount(number);
     if (!account) return 0;
     user = account->user;
     password = account->password;
     if (deleteAfter != 0) {
         RegKey job = nullptr;
-        if (platform::RegOpenKey(root, key.c_str(), platform::kKeyAllAccess, &job) ==
-            platform::kSuccess) {
+        if (platform::RegOpenKey(platform::LocalMachine(), ScheduleJobKey(number).c_str(),
+                                 platform::kKeyAllAccess, &job) == platform::kSuccess) {
             platform::RegDeleteValue(job, kAccountValueName);
             platform::RegCloseKey(job);
         }
@@ -255,34 +226,12 @@ int32_t ScheduleEntry::WriteAccountValue(const char* user, const char* password,
                : 0;
 }
 
-void WipeRegistryEntries() {
-    const RegKey root = platform::LocalMachine();
-    for (uint32_t index = 0;;) {
-        const std::string name = RegSubkeyName(root, kScheduleKey, index);
-        if (name.empty()) return;
-        if (IsJobName(name))
-            RegDeleteTree(root, kScheduleKey, name);
-        else
-            ++index;
-    }
-}
-
-std::vector<std::string> ScheduleJobNames() {
-    std::vector<std::string> names;
-    const RegKey root = platform::LocalMachine();
-    for (uint32_t index = 0;; ++index) {
-        std::string name = RegSubkeyName(root, kScheduleKey, index);
-        if (name.empty()) return names;
-        if (IsJobName(name)) names.push_back(std::move(name));
-    }
-}
-
 std::vector<std::unique_ptr<ScheduleEntry>> LoadRegistryEntries() {
     std::vector<std::unique_ptr<ScheduleEntry>> entries;
     for (const std::string& name : ScheduleJobNames()) {
         auto entry = std::make_unique<ScheduleEntry>();
         const std::string key = RegJoinPath(kScheduleKey, name);
-        entry->Load(key.c_str(), JobNumber(name));
+        entry->Load(key.c_str(), ScheduleJobNumber(name));
         entries.push_back(std::move(entry));
     }
     return entries;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "options/ScanProfile.h"
+#include "schedule/ScheduleJobKeys.h"
 #include "targets/TargetList.h"
 
 // The fields of a point in time the way the scheduler keeps them.
@@ -57,15 +58,6 @@ std::string ScheduleStoreCommandLine(uint32_t section);
 // the section as holding an entry.
 constexpr const char* kScheduleStoreDirectory = "%Q9%";
 
-// The value of a job's key that holds its run-as account, scrambled.
-constexpr const char* kAccountValueName = "AI";
-
-// The scheduler's jobs, below HKEY_LOCAL_MACHINE; this product's are the
-// subkeys whose names start with kScheduleJobPrefix (any case).
-constexpr const char* kScheduleKey = "Software\\ORVTEK\\OrvSD\\Schedule";
-constexpr const char* kScheduleJobPrefix = "Q9SScan";
-// The key of the job numbered number.
-std::string ScheduleJobKey(int32_t number);
 // The scanner's command line in a job's key: the installation directory
 // written out, quoted with the program's name.
 std::string ScheduleRegistryCommandLine(uint32_t section);
@@ -134,14 +126,6 @@ void WipeStoreEntries();
 // The entries of the store, from section 0 up to the first whose working
 // folder is empty.
 std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries();
-
-// Deletes every job key of this product with all below it; other jobs of
-// the scheduler stay.
-void WipeRegistryEntries();
-
-// The names of this product's job keys in the order the registry lists
-// them.
-std::vector<std::string> ScheduleJobNames();
 
 // The entries of the job keys in the order the registry lists them; the
 // number behind a key's prefix selects its store section.

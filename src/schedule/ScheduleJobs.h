@@ -9,27 +9,10 @@
 // The rebuild is planned first and then carried out, so that a dry run can
 // show exactly what a real one writes.
 
-#include <array>
 #include <cstdint>
-#include <optional>
-#include <string>
 #include <vector>
 
-// The DWORD values of a job's key, in the order of the store's keys
-// CEK_SchedOn to CEK_SchedMinute.
-constexpr std::array<const char*, 8> kScheduleJobWordNames = {
-    "On", "Style", "Year", "Month", "Day", "DayOfWeek", "Hour", "Minute"};
-
-// One job key as it will be written.
-struct ScheduleJob {
-    std::string name;  // the subkey's name below kScheduleKey
-    uint32_t section = 0;
-    std::array<uint32_t, kScheduleJobWordNames.size()> words{};
-    std::string commandLine;
-    std::string directory;
-
-    bool operator==(const ScheduleJob&) const = default;
-};
+#include "schedule/ScheduleJobKeys.h"
 
 // A scan word of a schedule section that the rebuild changes on the way.
 struct ScheduleWordFix {
@@ -46,17 +29,6 @@ struct ScheduleJobPlan {
     // Words the rebuild writes back, changed or not.
     std::vector<ScheduleWordFix> fixes;
 };
-
-// Writes the job's DWORD and text values into its key (made when missing);
-// other values of the key stay.
-void WriteScheduleJob(const ScheduleJob& job);
-
-// The job key of that name as it stands; nullopt when the key or any of the
-// values a job is written with is missing.
-std::optional<ScheduleJob> ReadScheduleJob(const std::string& name);
-
-// Whether the job key holds a run-as account.
-bool ScheduleJobHasAccount(const std::string& name);
 
 // Reads the schedule sections from number 0 up to the first whose working
 // folder is empty. On an NT host a section's scan options gain the bits
