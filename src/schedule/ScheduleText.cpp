@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 #include <QTime>
 
@@ -23,10 +24,17 @@ void Invalidate(int32_t* valid) {
     if (valid != nullptr) *valid = 0;
 }
 
+// The locale's short time format without seconds: some locales' short
+// format (the C locale's among them) shows them.
+QString ShortTimeFormat() {
+    static const QRegularExpression seconds(QStringLiteral("[:.]?s+|[.,]?z+"));
+    return QLocale().timeFormat(QLocale::ShortFormat).remove(seconds);
+}
+
 // Short time without seconds; empty when a field is out of range.
 QString TimeText(const ScheduleTime& time) {
     const QTime clock(time.wHour, time.wMinute, time.wSecond, time.wMilliseconds);
-    return clock.isValid() ? QLocale().toString(clock, QLocale::ShortFormat) : QString();
+    return clock.isValid() ? QLocale().toString(clock, ShortTimeFormat()) : QString();
 }
 
 // Long date; empty when the date does not exist.

@@ -56,6 +56,13 @@ TEST_F(ScheduleTextTest, EveryDayShowsTheTimeWithoutSeconds) {
     ExpectValid(kScheduleEveryDay, "Everyday 15:45");
 }
 
+TEST_F(ScheduleTextTest, LocalesWhoseShortTimeHasSecondsShowNone) {
+    QLocale::setDefault(QLocale::c());
+    ExpectValid(kScheduleEveryDay, "Everyday 15:45");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    ExpectValid(kScheduleEveryDay, "Everyday 3:45 PM");
+}
+
 TEST_F(ScheduleTextTest, EveryWeekShowsTheDaysNameThenTheTime) {
     ExpectValid(kScheduleEveryWeek, "Every week Sunday 15:45");
     m_time.wDayOfWeek = 1;
