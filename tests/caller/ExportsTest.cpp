@@ -1,18 +1,23 @@
 // The simple exports, called through the loaded library.
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "BoxAnswerer.h"
 #include "CallerInstallation.h"
 
 namespace {
 
 using MsgBoxFn = int32_t(int32_t, uint32_t);
+using PolicyDiffFn = int32_t(uint32_t, const char*, const char*, char*, uint32_t*);
 
 }  // namespace
 
-TEST(Exports, OnlyTheFourEntryPointsAreExported) {
+TEST(Exports, OnlyTheFiveEntryPointsAreExported) {
     CallerInstallation caller;
     ASSERT_NE(caller.Load(), nullptr) << dlerror();
+    EXPECT_NE(caller.Entry<void>("Q9CfgUL_DoModal"), nullptr);
+    EXPECT_NE(caller.Entry<void>("Q9CfgUL_PolicyDiff"), nullptr);
     EXPECT_NE(caller.Entry<void>("Q9CfgUL_MsgBox"), nullptr);
     EXPECT_NE(caller.Entry<void>("Q9CfgUL_Report"), nullptr);
     EXPECT_NE(caller.Entry<void>("WriteGeneralRuleFile"), nullptr);
@@ -64,4 +69,29 @@ TEST(Exports, WriteGeneralRuleFileReplacesTheUserRuleFile) {
     EXPECT_EQ(write(nullptr, 0), 1);
     EXPECT_TRUE(caller.install.Exists("OBRuleU.dat"));
     EXPECT_EQ(caller.install.Read("OBRuleU.dat"), "");
+}
+
+TEST(Exports, PolicyDiffGivesTheSizeFirstAndCopiesOnlyAReportThatFits) {
+    CallerInstallation caller;
+    ASSERT_NE(caller.Load(), nullptr) << dlerror();
+    auto* diff = caller.Entry<PolicyDiffFn>("Q9CfgUL_PolicyDiff");
+    ASSERT_NE(diff, nullptr);
+    EXPECT_EQ(diff(0, nullptr, nullptr, nullptr, nullptr), -1);
+
+    uint32_t size = 0;
+    EXPECT_EQ(diff(0, nullptr, nullptr, nullptr, &size), 0);
+    ASSERT_GT(size, 1u);
+    std::string small(size - 1, 'x');
+    uint32_t smallSize = size - 1;
+    diff(0, nullptr, nullptr, small.data(), &smallSize);
+    EXPECT_EQ(smallSize, size);
+    EXPECT_EQ(small, std::string(size - 1, 'x')) << "nothing is copied into a buffer too small";
+
+    std::string report(size, 'x');
+    EXPECT_EQ(diff(0, nullptr, nullptr, report.data(), &size), 0);
+    EXPECT_EQ(report.back(), '\0');
+    EXPECT_EQ(report.substr(0, report.size() - 1),
+              "No policy file: nothing is merged.\n"
+              "Exclusion zone: no zone library, the zone is left alone.\n"
+              "Nothing would change.\n");
 }
