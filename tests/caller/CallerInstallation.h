@@ -10,13 +10,16 @@
 #include <filesystem>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "support/TemporaryInstallation.h"
 #include "support/TestPaths.h"
 
 class CallerInstallation {
 public:
-    explicit CallerInstallation(std::initializer_list<const char*> siblings = {}) {
+    explicit CallerInstallation(std::initializer_list<const char*> siblings = {})
+        : CallerInstallation(std::vector<const char*>(siblings)) {}
+    explicit CallerInstallation(const std::vector<const char*>& siblings) {
         Copy("Q9CfgUL");
         Copy("Q9CfgE");
         for (const char* sibling : siblings) Copy(sibling);
