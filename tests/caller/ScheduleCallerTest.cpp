@@ -23,6 +23,7 @@
 #include "BoxAnswerer.h"
 #include "CallerSessionTest.h"
 #include "DialogDriver.h"
+#include "ScheduleSteps.h"
 #include "Q9CfgE.h"
 #include "q9cfgul.h"
 #include "support/TemporaryRegistry.h"
@@ -31,10 +32,12 @@
 namespace schedule_caller_test {
 namespace {
 
-constexpr int32_t kSchedulePage = 4;
-constexpr int kAddButton = 1034;
+using schedule_steps::Click;
+using schedule_steps::ClickOnPage;
+using schedule_steps::kAddButton;
+using schedule_steps::kSchedulePage;
+using schedule_steps::kScheduleList;
 constexpr int kDeleteButton = 1072;
-constexpr int kScheduleList = 1074;
 constexpr int kFolderTree = 1013;
 constexpr int kAddTarget = 1016;
 // The registry directory of the test's installation (its scratch
@@ -43,27 +46,6 @@ constexpr const char* kHives = "../hives";
 constexpr const char* kHive = "../hives/HKLM.reg";
 // The diagnostic log's file, which the library writes wherever it lies.
 constexpr const char* kDiagLog = "/tmp/q9cfgul.log";
-
-void Click(QDialog* dialog, int id) {
-    auto* button = DialogDriver::Find<QAbstractButton>(dialog, id);
-    ASSERT_NE(button, nullptr) << id;
-    button->click();
-}
-
-// A button of the schedule page itself: the dialog around it has a button of
-// the same id ("Default").
-void ClickOnPage(QDialog* dialog, int id) {
-    auto* list = DialogDriver::Find<QTreeWidget>(dialog, kScheduleList);
-    ASSERT_NE(list, nullptr);
-    for (auto* button : list->parentWidget()->findChildren<QAbstractButton*>(
-             QString(), Qt::FindDirectChildrenOnly)) {
-        if (button->property("controlId").toInt() == id) {
-            button->click();
-            return;
-        }
-    }
-    ADD_FAILURE() << "no button " << id << " on the page";
-}
 
 class ScheduleCallerTest : public CallerSessionTest {
 protected:
@@ -166,26 +148,7 @@ TEST_F(ScheduleCallerTest, PasswordsStandInTheirFilesOnlyScrambledOrEnciphered) 
                                      "\"Debug\"=dword:00000001\n");
     const std::string logBefore = TemporaryRegistry::ReadFile(kDiagLog);
     Session([&runPassword, &netPassword](QDialog* dialog) {
-        QTimer::singleShot(50, [&runPassword, &netPassword] {
-            auto* wizard = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(wizard, nullptr);
-            QTimer::singleShot(50, [&runPassword, &netPassword] {
-                auto* accounts = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-                ASSERT_NE(accounts, nullptr);
-                const std::pair<int, std::string> fields[] = {
-                    {1080, "runner"}, {1023, runPassword}, {1024, runPassword},
-                    {1081, "share"},  {1082, netPassword}, {1083, netPassword}};
-                for (const auto& [id, text] : fields) {
-                    auto* edit = DialogDriver::Find<QLineEdit>(accounts, id);
-                    ASSERT_NE(edit, nullptr) << id;
-                    edit->setText(QString::fromStdString(text));
-                }
-                Click(accounts, 1);
-            });
-            Click(wizard, 1084);
-            Click(wizard, 1);  // Finish
-        });
-        ClickOnPage(dialog, kAddButton);
+        schedule_steps::AddScanWithAccounts(dialog, {"runner", runPassword, "share", netPassword});
     });
     const std::string hive = Hive();
     const std::string store = Store();
