@@ -7,6 +7,7 @@
 //
 //   class CMyDlg : public CFormDialog<Ui::Dialog1001> { ... };
 
+#include "framework/AccessibleNames.h"
 #include "framework/Dialog.h"
 
 template <typename Form>
@@ -16,6 +17,7 @@ protected:
 
     bool BuildControls() override {
         m_ui.setupUi(this);
+        NameControlsByTheirLabels(this);
         return true;
     }
 

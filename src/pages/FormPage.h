@@ -9,6 +9,7 @@
 //
 // Base is the page family the page belongs to (CBoundPage by default).
 
+#include "framework/AccessibleNames.h"
 #include "pages/BoundPage.h"
 
 template <typename Form, typename Base = CBoundPage>
@@ -18,6 +19,7 @@ protected:
 
     bool BuildControls() override {
         m_ui.setupUi(this);
+        NameControlsByTheirLabels(this);
         return true;
     }
 

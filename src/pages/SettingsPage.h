@@ -32,6 +32,9 @@ public:
     explicit CSettingsPage(int templateId);
     ~CSettingsPage() override;
 
+    // The template the page is built from.
+    int TemplateId() const { return m_templateId; }
+
     // Builds the page's window from its template as a child of parent and
     // runs its start-up; false when the template does not exist.
     bool Create(QWidget* parent);
