@@ -4,6 +4,7 @@
 
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "session/DiagLog.h"
 #include "session/ProcessState.h"
 #include "session/SiblingLibs.h"
 
@@ -17,9 +18,11 @@ constexpr int32_t kConfigChangedItem = SSCT_SYSTEM_MONITOR;
 
 void BeginStoreEdit() { Q9CfgE_SetStyleEx(Q9CFGE_STYLE_EDIT, nullptr, Q9CFGE_MODE_EDIT); }
 
-void CommitWorkingCopy() {
+bool CommitWorkingCopy() {
     Q9CfgE_UnlockEx();
-    Q9CfgE_FlushEx(Q9CFGE_ALL_SECTIONS, 1);
+    if (Q9CfgE_FlushEx(Q9CFGE_ALL_SECTIONS, 1) == 1) return true;
+    g_Log.Write("the configuration could not be saved; the changes are kept");
+    return false;
 }
 
 void DropWorkingCopy() { Q9CfgE_SetStyleEx(Q9CFGE_STYLE_FILE, nullptr, Q9CFGE_MODE_PLAIN); }

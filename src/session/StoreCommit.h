@@ -10,8 +10,11 @@ constexpr uint32_t kProtectLevelCustomized = 8;
 
 // Puts the store into edit mode: pages work on its working copy from now on.
 void BeginStoreEdit();
-// Ends edit mode and writes the working copy to the live store.
-void CommitWorkingCopy();
+// Ends edit mode and writes the working copy to the live store. False when
+// the store could not be written (a file it cannot parse, a full disk, no
+// right to write): the store then keeps the working copy and stays in edit
+// mode, so that nothing the user changed is lost.
+bool CommitWorkingCopy();
 // Ends edit mode and drops the working copy.
 void DropWorkingCopy();
 // Writes the session's protection level and tells the running services

@@ -12,6 +12,7 @@
 #include "session/ShellTrees.h"
 #include "session/StoreCommit.h"
 #include "shell/ConfigWindow.h"
+#include "shell/SaveFailure.h"
 #include "text/MessageService.h"
 #include "text/StringTable.h"
 
@@ -172,7 +173,7 @@ void CConfigDlg::OnCommand(int id) {
 
 void CConfigDlg::OnOK() {
     if (!ValidateAndSaveCurrent()) return;
-    CommitWorkingCopy();
+    if (!CommitOrReport(this)) return;
     ApplyPages();
     AnnounceCommit();
     EndDialog(1);

@@ -7,6 +7,7 @@
 #include "pages/SettingsPage.h"
 #include "session/StoreCommit.h"
 #include "shell/ConfigWindow.h"
+#include "shell/SaveFailure.h"
 
 namespace {
 
@@ -91,7 +92,7 @@ void CPageShellDlg::OnOK() {
     }
     if (page && page->NeedApply()) m_applyPending = 1;
     if (m_ownsStore) {
-        CommitWorkingCopy();
+        if (!CommitOrReport(this)) return;
         if (page && page->NeedApply()) page->Apply();
         AnnounceCommit();
     }

@@ -353,6 +353,10 @@ constexpr StringEntry kStrings[] = {
     {57450, QT_TRANSLATE_NOOP("StringTable",
                               "The alert sound cannot be played: no sound device is available.")},
     {57451, QT_TRANSLATE_NOOP("StringTable", "This file cannot be played as an alert sound.")},
+    {57460, QT_TRANSLATE_NOOP("StringTable",
+                              "The settings could not be saved: the configuration file cannot be "
+                              "written or is damaged. Your changes are kept. Press OK to try "
+                              "again, or Cancel to discard them.")},
 };
 
 constexpr bool IdsAscendUnique() {

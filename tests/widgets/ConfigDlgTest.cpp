@@ -13,6 +13,7 @@
 #include "session/ProcessState.h"
 #include "shell/ConfigDlg.h"
 #include "shell/ConfigWindow.h"
+#include "text/StringTable.h"
 
 namespace {
 
@@ -48,6 +49,21 @@ protected:
 
     std::unique_ptr<CConfigDlg> dialog;
 };
+
+TEST_F(ConfigDlgTest, AStoreThatCannotBeWrittenIsSaidAndTheDialogStaysWithTheChanges) {
+    Install().Write("Q9Cfg.dat", "not a store file\n");
+    Open(5, 0, {5});
+    Q9CfgE_SetDWEx(CES_Pop3, CEK_Pop3Port, 4110);
+    Click(1);
+    EXPECT_TRUE(dialog->isVisible());
+    ASSERT_EQ(boxes.messages.size(), 1u);
+    EXPECT_EQ(boxes.messages[0].text, LoadString(strings::kSaveFailed));
+    EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
+    EXPECT_EQ(Word(CES_Pop3, CEK_Pop3Port), 4110u) << "the change is kept";
+    Click(2);
+    EXPECT_EQ(dialog->result(), 2);
+    EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
+}
 
 TEST_F(ConfigDlgTest, NormalTree) {
     Open(-1, 0);

@@ -9,6 +9,7 @@
 #include "session/ProcessState.h"
 #include "shell/ConfigWindow.h"
 #include "shell/PageShellDlg.h"
+#include "text/StringTable.h"
 
 namespace {
 
@@ -96,6 +97,28 @@ TEST_F(PageShellDlgTest, OkSavesCommitsAppliesAndSignalsButKeepsTheLevel) {
     EXPECT_EQ(g_nProtectLevel, 2u);
     EXPECT_EQ(Word(CES_General, CEK_ProtectLevel), 2u);
     EXPECT_EQ(Word(CES_Pop3, CEK_Pop3Port), 4110u);
+    EXPECT_EQ(Journal(), std::vector<std::string>{kSignal});
+}
+
+TEST_F(PageShellDlgTest, AStoreThatCannotBeWrittenIsSaidAndTheDialogStaysWithTheChanges) {
+    Install().Write("Q9Cfg.dat", "not a store file\n");
+    Open(5, {5});
+    Q9CfgE_SetDWEx(CES_Pop3, CEK_Pop3Port, 4110);
+    Page()->SetModified();
+    Click(1);
+    EXPECT_TRUE(shell->isVisible());
+    ASSERT_EQ(boxes.messages.size(), 1u);
+    EXPECT_EQ(boxes.messages[0].text, LoadString(strings::kSaveFailed));
+    EXPECT_EQ(boxes.messages[0].caption, LoadString(strings::kError));
+    EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
+    EXPECT_TRUE(Journal().empty()) << "nothing was announced";
+    EXPECT_EQ(Word(CES_Pop3, CEK_Pop3Port), 4110u) << "the change is kept";
+
+    // Once the file can be written, OK saves what was kept.
+    Install().Write("Q9Cfg.dat", "Q9 Configuration Store 1\n");
+    Click(1);
+    EXPECT_EQ(shell->result(), 1);
+    EXPECT_NE(Install().Read("Q9Cfg.dat").find("CEK_Pop3Port=dword:0000100e"), std::string::npos);
     EXPECT_EQ(Journal(), std::vector<std::string>{kSignal});
 }
 

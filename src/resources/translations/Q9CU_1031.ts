@@ -2041,5 +2041,9 @@ Möchten Sie die Explorer-Prüfung auswählen?</translation>
         <source>This file cannot be played as an alert sound.</source>
         <translation>Diese Datei kann nicht als Warnton abgespielt werden.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved: the configuration file cannot be written or is damaged. Your changes are kept. Press OK to try again, or Cancel to discard them.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden: Die Konfigurationsdatei kann nicht geschrieben werden oder ist beschädigt. Ihre Änderungen bleiben erhalten. Klicken Sie auf OK, um es erneut zu versuchen, oder auf Abbrechen, um sie zu verwerfen.</translation>
+    </message>
 </context>
 </TS>
