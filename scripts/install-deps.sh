@@ -11,6 +11,7 @@ PACKAGES=(
     libcanberra-dev
     fonts-dejavu-core
     clang libclang-rt-14-dev
+    dpkg-dev file scdoc desktop-file-utils
 )
 
 missing=()
