@@ -28,6 +28,9 @@ constexpr uint32_t kScanFloppyOnClose = 0x800000;   // floppy disc when closing 
 constexpr uint32_t kScanMonitorForced = 0x3000000;  // bits 24, 25: forced by the monitor saves
 constexpr uint32_t kScanExclusions = 0x8000000;     // sections 7 and 9: exclusion list in force
 constexpr uint32_t kScanHarmful = 0x40000000;       // scan possible harmful programs
+// What a scheduled scan needs on the NT family, where nobody may be logged
+// on to see it: in the background, the view closing itself, repairs made.
+constexpr uint32_t kScanUnattendedNT = kScanCloseView | kScanBackground | kScanAutoRepair;
 
 // The file type bits other than "All files", and the kinds a profile falls
 // back to when it has no file type at all (executables, macros, scripts).

@@ -30,13 +30,6 @@ uint32_t WithStoredBit16(uint32_t section, uint32_t word) {
     return TakeStoredBits(section, CEK_ScanOptions, kScanCarried16, word);
 }
 
-// The monitors offer no "process after user verification" for executing
-// files: that choice becomes "repair after a forced termination".
-uint32_t WithoutUserVerification(uint32_t policy) {
-    if (!(policy & kPolicyExecVerify)) return policy;
-    return (policy & ~kPolicyExecVerify) | kPolicyExecForced;
-}
-
 // Writes profile to section with bit 16 carried from the stored word and the
 // policy given.
 void SaveCarried(ScanProfile profile, uint32_t section, uint32_t policy) {
@@ -68,6 +61,11 @@ void SaveMailFunctions(ScanProfile profile) {
 }
 
 }  // namespace
+
+uint32_t WithoutUserVerification(uint32_t policy) {
+    if (!(policy & kPolicyExecVerify)) return policy;
+    return (policy & ~kPolicyExecVerify) | kPolicyExecForced;
+}
 
 void ScanProfile::LoadProfile(uint32_t section) {
     m_dwOptions = Q9CfgE_GetDWEx(section, CEK_ScanOptions);

@@ -40,3 +40,8 @@ void WriteExplorerScan(uint32_t systemWord, uint32_t policy);
 // policy; the extra word is not used) to every scanning function, each with
 // the adjustments that function needs. The order of the writes is fixed.
 void ApplyProfileToAllSections(const ScanProfile& profile);
+
+// policy with "process after user verification" for executing files turned
+// into "repair after a forced termination": the monitors do not offer the
+// first, and nobody is there to answer a scheduled scan.
+uint32_t WithoutUserVerification(uint32_t policy);

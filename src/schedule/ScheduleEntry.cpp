@@ -25,8 +25,6 @@ uint16_t Field(uint32_t section, uint32_t key) {
     return static_cast<uint16_t>(Q9CfgE_GetDWEx(section, key));
 }
 
-bool HoldsEntry(uint32_t section) { return !ReadStoreText(section, CEK_SchedCurDir).empty(); }
-
 }  // namespace
 
 ScheduleTime LocalTimeNow() {
@@ -55,6 +53,10 @@ int DayOfWeekOf(int year, int month, int day) {
                  7;
     if (result < 0) result = (result + 7) % 7;
     return result;
+}
+
+bool ScheduleSectionHoldsEntry(uint32_t section) {
+    return !ReadStoreText(section, CEK_SchedCurDir).empty();
 }
 
 std::string ScheduleStoreCommandLine(uint32_t section) {
@@ -150,13 +152,13 @@ int32_t ScheduleEntry::SaveToStore(int32_t number, int32_t on, uint32_t /*pageFl
 }
 
 void WipeStoreEntries() {
-    for (uint32_t index = 0; HoldsEntry(ScheduleSection(index)); ++index)
+    for (uint32_t index = 0; ScheduleSectionHoldsEntry(ScheduleSection(index)); ++index)
         Q9CfgE_SetStrEx(ScheduleSection(index), kObjectListKey, nullptr);
 }
 
 std::vector<std::unique_ptr<ScheduleEntry>> LoadStoreEntries() {
     std::vector<std::unique_ptr<ScheduleEntry>> entries;
-    for (int32_t number = 0; HoldsEntry(SectionOf(number)); ++number) {
+    for (int32_t number = 0; ScheduleSectionHoldsEntry(SectionOf(number)); ++number) {
         auto entry = std::make_unique<ScheduleEntry>();
         entry->Load(nullptr, number);
         entries.push_back(std::move(entry));

@@ -57,6 +57,8 @@ std::string ScheduleStoreCommandLine(uint32_t section);
 // The scanner's working folder in a schedule section; a non-empty one marks
 // the section as holding an entry.
 constexpr const char* kScheduleStoreDirectory = "%Q9%";
+// Whether a schedule section holds an entry: its working folder is set.
+bool ScheduleSectionHoldsEntry(uint32_t section);
 
 // The scanner's command line in a job's key: the installation directory
 // written out, quoted with the program's name.

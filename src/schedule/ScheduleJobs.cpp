@@ -1,21 +1,14 @@
 #include "schedule/ScheduleJobs.h"
 
-
 #include "Q9CfgE.h"
-#include "options/StoreAccess.h"
+#include "options/ScanBits.h"
+#include "options/ScanProfile.h"
 #include "options/StoreKeys.h"
 #include "schedule/ScheduleEntry.h"
 #include "session/ProcessState.h"
 #include "session/RegistryHelpers.h"
 
 namespace {
-
-// Scan options an unattended scan needs on the NT family.
-constexpr uint32_t kNtScanOptions = 0x101001;
-// Scan policy: ask the user before repairing a running program.
-constexpr uint32_t kAskBeforeRepair = 0x1000000;
-// Scan policy: repair a running program after a forced termination.
-constexpr uint32_t kRepairAfterTermination = 0x2000000;
 
 ScheduleJob JobOfSection(uint32_t index) {
     ScheduleJob job;
@@ -32,12 +25,11 @@ ScheduleJob JobOfSection(uint32_t index) {
 void PlanWordFixes(uint32_t section, bool ntHost, std::vector<ScheduleWordFix>& fixes) {
     if (ntHost) {
         const uint32_t options = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
-        fixes.push_back({section, CEK_ScanOptions, options, options | kNtScanOptions});
+        fixes.push_back({section, CEK_ScanOptions, options, options | kScanUnattendedNT});
     }
     const uint32_t policy = Q9CfgE_GetDWEx(section, CEK_ScanPolicy);
-    if (policy & kAskBeforeRepair) {
-        fixes.push_back({section, CEK_ScanPolicy, policy,
-                         (policy & ~kAskBeforeRepair) | kRepairAfterTermination});
+    if (const uint32_t unattended = WithoutUserVerification(policy); unattended != policy) {
+        fixes.push_back({section, CEK_ScanPolicy, policy, unattended});
     }
 }
 
@@ -45,8 +37,7 @@ void PlanWordFixes(uint32_t section, bool ntHost, std::vector<ScheduleWordFix>& 
 
 ScheduleJobPlan PlanScheduleJobs(bool ntHost) {
     ScheduleJobPlan plan;
-    for (uint32_t index = 0;
-         !ReadStoreText(ScheduleSection(index), CEK_SchedCurDir).empty(); ++index) {
+    for (uint32_t index = 0; ScheduleSectionHoldsEntry(ScheduleSection(index)); ++index) {
         plan.jobs.push_back(JobOfSection(index));
         PlanWordFixes(ScheduleSection(index), ntHost, plan.fixes);
     }

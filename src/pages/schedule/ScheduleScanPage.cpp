@@ -9,7 +9,6 @@ namespace {
 
 // The bits the scheduler's fixed behaviour sets on a locked page: close the
 // scan view, scan in the background, auto repair.
-constexpr uint32_t kLockedBits = kScanCloseView | kScanBackground | kScanAutoRepair;
 
 ScanPageTraits ScheduleScanTraits() {
     ScanPageTraits traits;
@@ -58,7 +57,7 @@ void CScheduleScanPage::PrepareControls() {
 void CScheduleScanPage::SaveRelated() {
     if (!Locked()) return;
     const StoreAddress options = Address(CEK_ScanOptions);
-    m_bind.Home().Write(options, m_bind.Home().Word(options) | kLockedBits);
+    m_bind.Home().Write(options, m_bind.Home().Word(options) | kScanUnattendedNT);
 }
 
 void CScheduleScanPage::UpdateEnables() {
