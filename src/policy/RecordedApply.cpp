@@ -42,8 +42,9 @@ bool ChangedFile(const HistoryEntry& entry, const std::string& file) {
 }
 
 // Runs body between snapshots of files, and appends the entry with what
-// changed. Copies of files that did not change are not kept.
-void RecordRun(HistoryEntry entry, std::vector<std::string> files, const std::string& session,
+// changed; answers the entry's number. Copies of files that did not change
+// are not kept.
+int64_t RecordRun(HistoryEntry entry, std::vector<std::string> files, const std::string& session,
                const std::function<void()>& body) {
     std::sort(files.begin(), files.end());
     files.erase(std::unique(files.begin(), files.end()), files.end());
@@ -71,6 +72,7 @@ void RecordRun(HistoryEntry entry, std::vector<std::string> files, const std::st
         }
     }
     if (!history.Append(entry)) g_Log.Write("the policy history cannot be written");
+    return entry.number;
 }
 
 // Puts back the values of file that entry changed: those that were there
@@ -164,8 +166,7 @@ UndoResult UndoLastApply() {
     undo.base = last.base;
     undo.keepMonitor = last.keepMonitor;
     undo.undoes = last.number;
-    result.recorded = history.NextNumber();
-    RecordRun(std::move(undo), files, session, [&] {
+    result.recorded = RecordRun(std::move(undo), files, session, [&] {
         std::vector<std::string> changed = FilesOf(last);
         std::sort(changed.begin(), changed.end());
         changed.erase(std::unique(changed.begin(), changed.end()), changed.end());
