@@ -60,7 +60,7 @@ void ReportOnce(const std::string& path, const std::string& content, const std::
         if (last == state) return;
         last = std::move(state);
     }
-    platform::ReportProblem(text);
+    platform::ReportUnreadableFile(path, text);
 }
 
 struct FileText {
@@ -147,7 +147,9 @@ ProfileFile ProfileFile::Load(const std::string& path) {
                    path + ":" + std::to_string(*badLine) +
                        ": not a section, key or comment; the file is taken as empty and left "
                        "unchanged");
+        return profile;
     }
+    platform::NoteReadableFile(path);
     return profile;
 }
 

@@ -135,6 +135,10 @@ bool ReadAllFrom(int fd, std::string* text) {
             if (errno == EINTR) continue;
             return false;
         }
+        if (text->size() + static_cast<size_t>(got) > kMaxDataFileBytes) {
+            errno = EFBIG;
+            return false;
+        }
         text->append(buffer, static_cast<size_t>(got));
     }
 }

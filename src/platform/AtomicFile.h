@@ -8,6 +8,7 @@
 
 #include <sys/types.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -51,12 +52,19 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, int* e
 bool CreateDirectories(const std::string& path, int* errorNumber,
                        mode_t mode = kDefaultDirectoryMode);
 
+// The largest data file any reader takes in: settings, hives, profiles, zone
+// and rule files are far smaller, so a larger one is damaged or not one of
+// ours, and reading it whole would only cost memory.
+constexpr std::size_t kMaxDataFileBytes = std::size_t{16} << 20;
+
 // Appends everything left to read from fd to *text. False on a read error
-// (errno tells which).
+// (errno tells which) and, with EFBIG, when *text would grow past
+// kMaxDataFileBytes.
 bool ReadAllFrom(int fd, std::string* text);
 
 // The whole file at path into *text: 0, or the errno of the failure (ENOENT
-// for a missing file); *text is left empty on failure.
+// for a missing file, EFBIG for one larger than kMaxDataFileBytes); *text is
+// left empty on failure.
 int ReadWholeFile(const std::string& path, std::string* text);
 
 }  // namespace platform

@@ -81,7 +81,9 @@ HiveFile::Snapshot HiveFile::Load(const std::string& path) {
     RegistryHive::ParseError parseError;
     const Snapshot snapshot = ReadFile(path, &signature, &parseError);
     Remember(signature, snapshot);
-    if (snapshot.corrupt) {
+    if (!snapshot.corrupt && snapshot.readError == 0) {
+        NoteReadableFile(path);
+    } else if (snapshot.corrupt) {
         ReportOnce(signature, "registry hive " + path + " cannot be parsed, line " +
                                   std::to_string(parseError.line) + ": " + parseError.message +
                                   "; it is read as empty and will not be changed");
@@ -129,7 +131,7 @@ void HiveFile::ReportOnce(const Signature& signature, const std::string& text) {
         if (signature == m_reportedSignature) return;
         m_reportedSignature = signature;
     }
-    ReportProblem(text);
+    ReportUnreadableFile(signature.path, text);
 }
 
 int32_t HiveFile::WriteHive(const std::string& path, RegistryHive hive) {

@@ -4,6 +4,7 @@
 
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
+#include "platform/Registry.h"
 #include "session/DiagLog.h"
 #include "session/ProcessState.h"
 #include "session/SiblingLibs.h"
@@ -16,7 +17,15 @@ constexpr int32_t kConfigChangedItem = SSCT_SYSTEM_MONITOR;
 
 }  // namespace
 
-void BeginStoreEdit() { Q9CfgE_SetStyleEx(Q9CFGE_STYLE_EDIT, nullptr, Q9CFGE_MODE_EDIT); }
+void BeginStoreEdit() {
+    Q9CfgE_SetStyleEx(Q9CFGE_STYLE_EDIT, nullptr, Q9CFGE_MODE_EDIT);
+    // Opening a key reads the hive; a damaged one is reported as it is read.
+    platform::RegKey software = nullptr;
+    if (platform::RegOpenKey(platform::LocalMachine(), "Software", platform::kKeyRead, &software) ==
+        platform::kSuccess) {
+        platform::RegCloseKey(software);
+    }
+}
 
 bool CommitWorkingCopy() {
     Q9CfgE_UnlockEx();

@@ -9,6 +9,8 @@
 constexpr uint32_t kProtectLevelCustomized = 8;
 
 // Puts the store into edit mode: pages work on its working copy from now on.
+// The machine's registry hive, which applying the pages writes, is read as
+// well, so that a hive that cannot be read is known while a dialog is open.
 void BeginStoreEdit();
 // Ends edit mode and writes the working copy to the live store. False when
 // the store could not be written (a file it cannot parse, a full disk, no

@@ -138,6 +138,8 @@ void CConfigDlg::EnterPage(QTreeWidgetItem* item) {
         page->repaint();
         m_ui.defaultButton->setEnabled(page->CanDefault() != 0);
     }
+    // The page has read its files by now.
+    m_unreadableFiles.ShowNewLater(this);
     m_ui.headerBar->SetText(item->text(0));
     if (m_dlgFlags & DMF_TitleShowsPage) {
         const QString caption =
@@ -173,6 +175,7 @@ void CConfigDlg::OnCommand(int id) {
 
 void CConfigDlg::OnOK() {
     if (!ValidateAndSaveCurrent()) return;
+    m_unreadableFiles.ShowNew(this);
     if (!CommitOrReport(this)) return;
     ApplyPages();
     AnnounceCommit();

@@ -11,6 +11,7 @@
 #include "framework/FormDialog.h"
 #include "framework/ImageList.h"
 #include "shell/PageTable.h"
+#include "shell/UnreadableFilesNotice.h"
 #include "ui_Dialog102.h"
 
 class ConfigWindowRegistration;
@@ -60,4 +61,5 @@ private:
     QTreeWidgetItem* m_selected = nullptr;  // the item whose page is shown
     bool m_reverting = false;
     std::unique_ptr<ConfigWindowRegistration> m_window;
+    CUnreadableFilesNotice m_unreadableFiles;
 };

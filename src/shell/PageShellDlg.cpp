@@ -41,6 +41,7 @@ bool CPageShellDlg::OnInitDialog() {
         setWindowTitle(QString::fromStdString(CPageTable::TitleOf(m_pageId)));
     }
     Arrange(page);
+    m_unreadableFiles.ShowNewLater(this);
     return true;
 }
 
@@ -91,6 +92,7 @@ void CPageShellDlg::OnOK() {
         page->Save();
     }
     if (page && page->NeedApply()) m_applyPending = 1;
+    m_unreadableFiles.ShowNew(this);
     if (m_ownsStore) {
         if (!CommitOrReport(this)) return;
         if (page && page->NeedApply()) page->Apply();

@@ -10,6 +10,7 @@
 #include "framework/FormDialog.h"
 #include "framework/ImageList.h"
 #include "shell/PageTable.h"
+#include "shell/UnreadableFilesNotice.h"
 #include "ui_Dialog1001.h"
 
 class ConfigWindowRegistration;
@@ -57,4 +58,5 @@ private:
     int32_t m_applyPending = 0;
     ImageList m_pageIcons;
     std::unique_ptr<ConfigWindowRegistration> m_window;
+    CUnreadableFilesNotice m_unreadableFiles;
 };

@@ -357,6 +357,11 @@ constexpr StringEntry kStrings[] = {
                               "The settings could not be saved: the configuration file cannot be "
                               "written or is damaged. Your changes are kept. Press OK to try "
                               "again, or Cancel to discard them.")},
+    {57461, QT_TRANSLATE_NOOP("StringTable",
+                              "These settings files cannot be read:\n\n%s\n\nThey are left as "
+                              "they are. The settings they hold are shown with their default "
+                              "values, and changes to them cannot be saved until the files are "
+                              "repaired or removed.")},
 };
 
 constexpr bool IdsAscendUnique() {

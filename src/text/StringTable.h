@@ -31,6 +31,7 @@ constexpr uint32_t kLengthMessage = 57354;
 constexpr uint32_t kOfficeGuardQuestion = 57396;
 constexpr uint32_t kExplorerScanQuestion = 57397;
 constexpr uint32_t kSaveFailed = 57460;
+constexpr uint32_t kUnreadableFiles = 57461;
 
 }  // namespace strings
 

@@ -1,7 +1,8 @@
 #pragma once
 
 // An installation directory of its own for a caller test: libQ9CfgUL.so and
-// the store it is linked against are copied in, plus whichever sibling
+// the libraries it is linked against (the store, the problem reports) are
+// copied in, plus whichever sibling
 // libraries the test wants present; then the library is loaded with dlopen
 // exactly as the product's programs load it.
 
@@ -22,6 +23,7 @@ public:
     explicit CallerInstallation(const std::vector<const char*>& siblings) {
         Copy("Q9CfgUL");
         Copy("Q9CfgE");
+        Copy("Q9Problems");
         for (const char* sibling : siblings) Copy(sibling);
     }
     ~CallerInstallation() {

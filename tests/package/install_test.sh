@@ -40,7 +40,7 @@ dir="$prefix/$installation"
 # Where everything goes.
 for file in \
     "$dir/libQ9CfgUL.so" "$dir/libQ9CfgUL.so.1" "$dir/libQ9CfgUL.so.1.0.0" \
-    "$dir/libQ9CfgE.so" "$dir/libOrvI18N.so" "$dir/libOrvInst.so" "$dir/libQ9SSCtrl.so" \
+    "$dir/libQ9Problems.so" "$dir/libQ9CfgE.so" "$dir/libOrvI18N.so" "$dir/libOrvInst.so" "$dir/libQ9SSCtrl.so" \
     "$dir/libQ9P3ATHL.so" "$dir/libQ9IMcfg.so" "$dir/libQ9MsgFlt.so" "$dir/libOrvDMZ.so" \
     "$dir/q9cfg" "$dir/q9admin" "$dir/Q9CfgDef.dat" "$dir/OrvMd.dat" "$dir/Q9Sec.dat" \
     "$dir/Resource/Wizard.bmp" "$dir/Resource/Schedule_Wizard.bmp" "$dir/registry/HKLM.reg" \

@@ -53,11 +53,15 @@ protected:
 TEST_F(ConfigDlgTest, AStoreThatCannotBeWrittenIsSaidAndTheDialogStaysWithTheChanges) {
     Install().Write("Q9Cfg.dat", "not a store file\n");
     Open(5, 0, {5});
+    QApplication::processEvents();
+    ASSERT_EQ(boxes.messages.size(), 1u) << "the damaged file is told as the dialog opens";
+    EXPECT_TRUE(IsUnreadableFilesNotice(boxes.messages[0], {Install().PathOf("Q9Cfg.dat")}))
+        << boxes.messages[0].text;
     Q9CfgE_SetDWEx(CES_Pop3, CEK_Pop3Port, 4110);
     Click(1);
     EXPECT_TRUE(dialog->isVisible());
-    ASSERT_EQ(boxes.messages.size(), 1u);
-    EXPECT_EQ(boxes.messages[0].text, LoadString(strings::kSaveFailed));
+    ASSERT_EQ(boxes.messages.size(), 2u) << "told once";
+    EXPECT_EQ(boxes.messages[1].text, LoadString(strings::kSaveFailed));
     EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
     EXPECT_EQ(Word(CES_Pop3, CEK_Pop3Port), 4110u) << "the change is kept";
     Click(2);

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <Q9CfgE.h>
 #include <gtest/gtest.h>
 
@@ -103,13 +104,17 @@ TEST_F(PageShellDlgTest, OkSavesCommitsAppliesAndSignalsButKeepsTheLevel) {
 TEST_F(PageShellDlgTest, AStoreThatCannotBeWrittenIsSaidAndTheDialogStaysWithTheChanges) {
     Install().Write("Q9Cfg.dat", "not a store file\n");
     Open(5, {5});
+    QApplication::processEvents();
+    ASSERT_EQ(boxes.messages.size(), 1u) << "the damaged file is told as the dialog opens";
+    EXPECT_TRUE(IsUnreadableFilesNotice(boxes.messages[0], {Install().PathOf("Q9Cfg.dat")}))
+        << boxes.messages[0].text;
     Q9CfgE_SetDWEx(CES_Pop3, CEK_Pop3Port, 4110);
     Page()->SetModified();
     Click(1);
     EXPECT_TRUE(shell->isVisible());
-    ASSERT_EQ(boxes.messages.size(), 1u);
-    EXPECT_EQ(boxes.messages[0].text, LoadString(strings::kSaveFailed));
-    EXPECT_EQ(boxes.messages[0].caption, LoadString(strings::kError));
+    ASSERT_EQ(boxes.messages.size(), 2u) << "told once";
+    EXPECT_EQ(boxes.messages[1].text, LoadString(strings::kSaveFailed));
+    EXPECT_EQ(boxes.messages[1].caption, LoadString(strings::kError));
     EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
     EXPECT_TRUE(Journal().empty()) << "nothing was announced";
     EXPECT_EQ(Word(CES_Pop3, CEK_Pop3Port), 4110u) << "the change is kept";

@@ -4,6 +4,8 @@
 
 #include "framework/ImageList.h"
 #include "session/ProcessState.h"
+#include "text/StringTable.h"
+#include "text/TextFormat.h"
 
 ShellTest::ShellTest() : m_savedLevel(g_nProtectLevel) { AddSibling("Q9SSCtrl"); }
 
@@ -43,4 +45,13 @@ QTreeWidgetItem* TreeItemOf(const QTreeWidget* tree, int page) {
         if ((*it)->data(0, Qt::UserRole).toInt() == page) return *it;
     }
     return nullptr;
+}
+
+bool IsUnreadableFilesNotice(const RecordedMessage& message,
+                             const std::vector<std::string>& paths) {
+    std::string list;
+    for (const std::string& path : paths) list += (list.empty() ? "" : "\n") + path;
+    const std::string format = LoadString(strings::kUnreadableFiles);
+    return message.text == FormatResource(format.c_str(), list.c_str()) &&
+           message.caption == LoadString(strings::kWarningCaption);
 }

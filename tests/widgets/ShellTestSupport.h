@@ -29,3 +29,8 @@ std::string TreeOutline(const QTreeWidget* tree);
 
 // The row of page id, or null.
 QTreeWidgetItem* TreeItemOf(const QTreeWidget* tree, int page);
+
+// Whether message is the warning that lists exactly the unreadable files
+// paths, in that order.
+bool IsUnreadableFilesNotice(const RecordedMessage& message,
+                             const std::vector<std::string>& paths);

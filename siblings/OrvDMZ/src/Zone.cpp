@@ -40,7 +40,6 @@ std::vector<RecordBuffer::TaggedRecord> ViewOf(const ZoneContent& content, const
     return own;
 }
 
-
 bool IsLocked(const platform::FileLock& lock, const std::string& path) {
     if (lock.IsLocked()) return true;
     platform::ReportProblem("OrvDMZ: cannot lock " + path + ": " +
@@ -101,18 +100,25 @@ bool Zone::Delete(const OwnerTags& owner) const {
 std::optional<ZoneContent> Zone::Read() const {
     std::string text;
     const int readError = platform::ReadWholeFile(m_filePath, &text);
-    if (readError == ENOENT) return ZoneContent{};
+    if (readError == ENOENT) {
+        platform::NoteReadableFile(m_filePath);
+        return ZoneContent{};
+    }
     if (readError != 0) {
-        platform::ReportProblem("OrvDMZ: cannot read " + m_filePath + ": " +
-                                std::strerror(readError));
+        platform::ReportUnreadableFile(m_filePath, "OrvDMZ: cannot read " + m_filePath + ": " +
+                                                       std::strerror(readError) +
+                                                       "; it is left as it is");
         return std::nullopt;
     }
     std::string error;
     auto content = ZoneFile::Parse(text, &error);
     if (!content) {
-        platform::ReportProblem("OrvDMZ: " + m_filePath + " is not a zone file (" + error +
-                                "); it is left as it is");
+        platform::ReportUnreadableFile(
+            m_filePath,
+            "OrvDMZ: " + m_filePath + " is not a zone file (" + error + "); it is left as it is");
+        return std::nullopt;
     }
+    platform::NoteReadableFile(m_filePath);
     return content;
 }
 

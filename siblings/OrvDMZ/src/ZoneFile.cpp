@@ -81,6 +81,12 @@ std::optional<ZoneContent> ZoneFile::Parse(std::string_view text, std::string* e
             return fail("unknown line");
         }
     }
+    // The zone's writer always writes the first line: a file without one was
+    // emptied by something else.
+    if (!seenFirstLine) {
+        if (error) *error = "line 1: the file holds no first line";
+        return std::nullopt;
+    }
     return content;
 }
 

@@ -26,7 +26,8 @@ public:
     static constexpr std::string_view kFirstLine = "OrvDMZ Zone 1";
 
     // The content of text; null with *error telling the line and the reason
-    // when text is not in this format. Empty or blank text is an empty zone.
+    // when text is not in this format. Empty or blank text is refused: the
+    // writer always writes the first line.
     static std::optional<ZoneContent> Parse(std::string_view text, std::string* error);
 
     static std::string Format(const ZoneContent& content);

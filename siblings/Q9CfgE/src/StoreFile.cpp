@@ -36,6 +36,7 @@ void StoreFile::Load() {
         if (fd >= 0) close(fd);
         if (m_signature.error == ENOENT) {
             m_snapshot.missing = true;
+            platform::NoteReadableFile(m_path);
             return;
         }
         m_snapshot.readError = m_signature.error;
@@ -61,6 +62,7 @@ void StoreFile::Load() {
                    "); it reads as empty and is not written");
         return;
     }
+    platform::NoteReadableFile(m_path);
     m_snapshot.data = std::move(data);
 }
 
@@ -68,7 +70,7 @@ void StoreFile::ReportOnce(const std::string& text) {
     if (m_reported && m_reportedSignature == m_signature) return;
     m_reported = true;
     m_reportedSignature = m_signature;
-    platform::ReportProblem(text);
+    platform::ReportUnreadableFile(m_path, text);
 }
 
 bool StoreFile::Replace(const Producer& produce) {

@@ -134,7 +134,14 @@ std::optional<uint32_t> StoreParser::ParseNumber(std::string_view text) {
 }
 
 bool StoreParser::Parse(std::string_view bytes, StoreData* data, ParseError* error) {
-    if (bytes.empty()) return true;
+    // A store's writer always writes the first line: a file of no bytes was
+    // emptied by something else and is not taken as a store without values.
+    if (bytes.empty()) {
+        error->line = 1;
+        error->message = "the file is empty";
+        *data = StoreData();
+        return false;
+    }
     if (bytes.substr(0, kBom.size()) == kBom) bytes.remove_prefix(kBom.size());
     StoreParser parser(data);
     size_t lineNumber = 0;

@@ -25,7 +25,8 @@ public:
     static constexpr std::string_view kHeader = "Q9 Configuration Store 1";
 
     // Fills *data (which must be empty) and answers true, or answers false
-    // with *error set. An empty file (0 bytes) is an empty store.
+    // with *error set. An empty file (0 bytes) is refused: the
+    // writer never makes one.
     static bool Parse(std::string_view bytes, StoreData* data, ParseError* error);
 
     // "0x" and 1 to 8 hex digits, or 1 to 10 decimal digits, within 32 bits.

@@ -105,6 +105,9 @@ std::optional<std::vector<SpamRule>> RuleFile::Parse(const QString& text, QStrin
         }
         if (!reason.isEmpty()) break;
     }
+    // The writer always writes the first line: a file without one was emptied
+    // by something else.
+    if (reason.isEmpty() && !seenFirstLine) reason = QStringLiteral("the file holds no first line");
     if (reason.isEmpty() && finishRule()) return rules;
     if (error) *error = QStringLiteral("line %1: %2").arg(index + 1).arg(reason);
     return std::nullopt;
@@ -131,17 +134,24 @@ QString RuleFile::Format(const std::vector<SpamRule>& rules) {
 std::optional<std::vector<SpamRule>> RuleFile::Load(const std::string& path) {
     std::string text;
     const int readError = platform::ReadWholeFile(path, &text);
-    if (readError == ENOENT) return std::vector<SpamRule>{};
+    if (readError == ENOENT) {
+        platform::NoteReadableFile(path);
+        return std::vector<SpamRule>{};
+    }
     if (readError != 0) {
-        platform::ReportProblem("Q9MsgFlt: cannot read " + path + ": " + std::strerror(readError));
+        platform::ReportUnreadableFile(path, "Q9MsgFlt: cannot read " + path + ": " +
+                                                 std::strerror(readError) +
+                                                 "; it is left as it is");
         return std::nullopt;
     }
     QString error;
     auto rules = Parse(QString::fromStdString(text), &error);
     if (!rules) {
-        platform::ReportProblem("Q9MsgFlt: " + path + " is not a rules file (" +
-                                error.toStdString() + "); it is left as it is");
+        platform::ReportUnreadableFile(path, "Q9MsgFlt: " + path + " is not a rules file (" +
+                                                 error.toStdString() + "); it is left as it is");
+        return std::nullopt;
     }
+    platform::NoteReadableFile(path);
     return rules;
 }
 

@@ -33,7 +33,8 @@ public:
     static constexpr const char* kFileName = "Q9MsgFlt.rules";
 
     // The rules of text; null with *error telling the line and the reason
-    // when text is not in this format. Empty or blank text has no rules.
+    // when text is not in this format. Empty or blank text is refused: the
+    // writer always writes the first line.
     static std::optional<std::vector<SpamRule>> Parse(const QString& text, QString* error);
 
     static QString Format(const std::vector<SpamRule>& rules);

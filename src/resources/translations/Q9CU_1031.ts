@@ -2045,5 +2045,17 @@ Möchten Sie die Explorer-Prüfung auswählen?</translation>
         <source>The settings could not be saved: the configuration file cannot be written or is damaged. Your changes are kept. Press OK to try again, or Cancel to discard them.</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden: Die Konfigurationsdatei kann nicht geschrieben werden oder ist beschädigt. Ihre Änderungen bleiben erhalten. Klicken Sie auf OK, um es erneut zu versuchen, oder auf Abbrechen, um sie zu verwerfen.</translation>
     </message>
+    <message>
+        <source>These settings files cannot be read:
+
+%s
+
+They are left as they are. The settings they hold are shown with their default values, and changes to them cannot be saved until the files are repaired or removed.</source>
+        <translation>Diese Einstellungsdateien können nicht gelesen werden:
+
+%s
+
+Sie bleiben unverändert. Ihre Einstellungen werden mit den Standardwerten angezeigt, und Änderungen daran können erst gespeichert werden, wenn die Dateien repariert oder entfernt sind.</translation>
+    </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "session/ProcessState.h"
 #include "session/ProtectionLevel.h"
 #include "session/StoreCommit.h"
+#include "support/DamagedContent.h"
 #include "support/SiblingTest.h"
 
 namespace {
@@ -84,6 +85,26 @@ TEST_F(ProtectionLevelTest, AnEmptyPasswordStaysEmptyAndSwitchedOff) {
     EXPECT_EQ(Word(CES_Authorization, CEK_AuthEnabled), 0u);
     EXPECT_EQ(Word(CES_Authorization, CEK_AuthItems), 0u);
     EXPECT_EQ(ReadEncText(CES_Authorization, CEK_AuthPassword), "");
+}
+
+TEST_F(ProtectionLevelTest, ADamagedLevelFileLoadsNothingIsListedAsUnreadableAndKept) {
+    const std::string path = Install().PathOf("OrvHg.dat");
+    const std::string valid = Install().Read("OrvHg.dat");
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "[CES_"), damage);
+        Install().Write("OrvHg.dat", text);
+        SetWord(CES_Macro, CEK_MacroOptions, 0x99);
+        ApplyLevel(kProtectLevelHigh);
+        EXPECT_EQ(Word(CES_Macro, CEK_MacroOptions), 0x99u) << "the working copy is kept";
+        ExpectProtectionKept();
+        EXPECT_TRUE(IsListedUnreadable(path));
+        EXPECT_TRUE(Install().Read("OrvHg.dat") == text) << "the file is kept";
+    }
+    Install().Write("OrvHg.dat", valid);
+    ApplyLevel(kProtectLevelHigh);
+    EXPECT_EQ(Word(CES_Macro, CEK_MacroOptions), 0x11u);
+    EXPECT_FALSE(IsListedUnreadable(path));
 }
 
 TEST_F(ProtectionLevelTest, CustomizedAndOtherValuesLoadNothingAndLeaveTheSessionAlone) {

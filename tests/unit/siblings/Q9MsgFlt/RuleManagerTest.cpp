@@ -2,6 +2,7 @@
 
 #include "MsgFltTestSupport.h"
 #include "Q9MsgFlt.h"
+#include "support/DamagedContent.h"
 #include "support/StderrCapture.h"
 
 namespace {
@@ -57,6 +58,11 @@ TEST_F(RuleManagerTest, LaterInitSharesTheLoadedRules) {
 
 TEST_F(RuleManagerTest, UnparseableFileFailsInitIsReportedAndKept) {
     const std::vector<std::string> broken = {
+        // The writer always writes the first line: a file without it was
+        // emptied by something else.
+        "",
+        "\n\n",
+        "# a comment alone\n",
         "not rules\n",
         "Q9MsgFlt Rules 2\n",
         "Q9MsgFlt Rules 1\nName=outside a rule\n",
@@ -82,6 +88,27 @@ TEST_F(RuleManagerTest, UnparseableFileFailsInitIsReportedAndKept) {
         EXPECT_NE(reported.Text().find("is not a rules file"), std::string::npos) << text;
         EXPECT_EQ(Q9MsgFltAPI_GetRuleCount(), 0);
         EXPECT_EQ(RulesText(), text);
+    }
+}
+
+TEST_F(RuleManagerTest, DamagedFileIsListedAsUnreadableAndKept) {
+    const std::string valid =
+        "Q9MsgFlt Rules 1\n[Rule]\nName=Pharmacy\nField=Body\nWords=cheap\nAction=Delete\n"
+        "Enabled=Yes\n";
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "Pharmacy"), damage);
+        WriteRules(text);
+        EXPECT_EQ(Q9MsgFltAPI_InitManager(), 0);
+        EXPECT_EQ(Q9MsgFltAPI_WriteRules(), 0);
+        EXPECT_TRUE(IsListedUnreadable(RulesPath()));
+        EXPECT_TRUE(RulesText() == text) << "the file is kept";
+        // Repaired, it is read again and no longer listed.
+        WriteRules(valid);
+        ASSERT_EQ(Q9MsgFltAPI_InitManager(), 1);
+        EXPECT_EQ(Q9MsgFltAPI_GetRuleCount(), 1);
+        EXPECT_FALSE(IsListedUnreadable(RulesPath()));
+        Q9MsgFltAPI_ReleaseManager();
     }
 }
 
