@@ -17,6 +17,7 @@
 #include "platform/HiveFile.h"
 #include "platform/Registry.h"
 #include "support/ChildProcess.h"
+#include "support/DamagedContent.h"
 #include "support/ProblemCapture.h"
 #include "support/TemporaryRegistry.h"
 
@@ -88,6 +89,22 @@ TEST_F(HiveFileCorrupt, IsReportedReadAsEmptyAndNeverWritten) {
     ASSERT_EQ(CreateKey(CurrentUser(), "Software"), kSuccess);
     ASSERT_EQ(SetBytes(CurrentUser(), "Fine", kRegDword, DwordData(1)), kSuccess);
     EXPECT_EQ(Query(CurrentUser(), "Fine").data, DwordData(1));
+}
+
+TEST_F(HiveFileCorrupt, EveryDamageIsListedAsUnreadableAndRefusesChanges) {
+    const std::string valid = std::string(kHiveHeader) + "\n[HKEY_LOCAL_MACHINE\\Software]\n";
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "[HKEY_LOCAL"), damage);
+        registry_.WriteHive("HKLM.reg", text);
+        EXPECT_TRUE(SubkeyNames(LocalMachine()).empty());
+        EXPECT_TRUE(IsListedUnreadable(MachineHive()));
+        EXPECT_NE(SetBytes(LocalMachine(), "x", kRegDword, DwordData(1)), kSuccess);
+        EXPECT_TRUE(TemporaryRegistry::ReadFile(MachineHive()) == text) << "the file is kept";
+    }
+    registry_.WriteHive("HKLM.reg", valid);
+    EXPECT_EQ(SubkeyNames(LocalMachine()), std::vector<std::string>{"Software"});
+    EXPECT_FALSE(IsListedUnreadable(MachineHive()));
 }
 
 TEST_F(HiveFileCorrupt, ReportNamesTheLineAndComesOncePerFileState) {

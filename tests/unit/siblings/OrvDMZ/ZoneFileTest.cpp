@@ -7,6 +7,7 @@
 
 #include "OrvDMZ.h"
 #include "ZoneTestSupport.h"
+#include "support/DamagedContent.h"
 #include "support/StderrCapture.h"
 
 namespace {
@@ -94,6 +95,23 @@ TEST_F(ZoneFileTest, UnparseableFileIsReportedAndKept) {
         EXPECT_NE(reported.Text().find("is not a zone file"), std::string::npos) << text;
         EXPECT_EQ(ZoneText(), text);
     }
+}
+
+TEST_F(ZoneFileTest, EveryDamageIsListedAsUnreadableAndRefusesChanges) {
+    const std::string valid = "OrvDMZ Zone 1\n[Other]\nrecord=1,0x00000010,\"/opt/other\"\n";
+    const auto bytes = MakeBuffer({Record(1, 0x2, "/new")});
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "\"/opt/other"), damage);
+        WriteZone(text);
+        EXPECT_EQ(OrvDMZ_EnumDMZA(zone, kOwner, kOwner, nullptr, 0), 0);
+        EXPECT_EQ(OrvDMZ_AddDMZA(zone, kOwner, kOwner, bytes.data()), 0);
+        EXPECT_TRUE(IsListedUnreadable(install.PathOf("OrvDMZ.zone")));
+        EXPECT_TRUE(ZoneText() == text) << "the file is kept";
+    }
+    WriteZone(valid);
+    EXPECT_EQ(OrvDMZ_AddDMZA(zone, kOwner, kOwner, bytes.data()), 1);
+    EXPECT_FALSE(IsListedUnreadable(install.PathOf("OrvDMZ.zone")));
 }
 
 TEST_F(ZoneFileTest, ZoneThatIsNotAFileIsReported) {

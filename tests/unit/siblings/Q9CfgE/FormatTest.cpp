@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "StoreTest.h"
+#include "support/DamagedContent.h"
 
 namespace store_test {
 namespace {
@@ -154,6 +155,21 @@ INSTANTIATE_TEST_SUITE_P(Cases, UnparseableFileTest, testing::ValuesIn(kBadFiles
                              }
                              return name;
                          });
+
+TEST_F(FormatTest, EveryDamageIsListedAsUnreadableAndRefusesChanges) {
+    const std::string valid = std::string(kHeader) + "[CES_General]\nCEK_AlertSound=\"/a.wav\"\n";
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "\"/a.wav"), damage);
+        WriteFile(LiveFile(), text);
+        EXPECT_EQ(Q9CfgE_SetDWEx(kGeneral, kGeneralOptions, 1), 0);
+        EXPECT_TRUE(IsListedUnreadable(LiveFile()));
+        EXPECT_TRUE(ReadFile(LiveFile()) == text) << "the file is kept";
+    }
+    WriteFile(LiveFile(), valid);
+    EXPECT_EQ(Q9CfgE_SetDWEx(kGeneral, kGeneralOptions, 1), 1);
+    EXPECT_FALSE(IsListedUnreadable(LiveFile()));
+}
 
 TEST_F(FormatTest, ChangedCorruptFileIsReportedAgain) {
     WriteFile(LiveFile(), std::string(kHeader) + "[CES_Nothing]\n");

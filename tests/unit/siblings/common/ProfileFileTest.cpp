@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "common/ProfileFile.h"
+#include "support/DamagedContent.h"
 #include "support/ProblemCapture.h"
 #include "support/TemporaryRegistry.h"
 
@@ -213,6 +214,31 @@ TEST_F(ProfileFileTest, LineWithoutEqualsMakesTheFileUnparseableReportedOnceAndN
 
     EXPECT_FALSE(SetOne(path, "", "a", "5"));
     EXPECT_EQ(Read(path), text);
+}
+
+// An empty profile is a valid profile without values (its writer writes one
+// so); every other damage is listed as unreadable and refuses changes.
+TEST_F(ProfileFileTest, EveryDamageButEmptinessIsListedAsUnreadableAndRefusesChanges) {
+    const std::string valid = "[Installed]\n0=1\n";
+    const std::string path = PathOf("damaged.ini");
+    for (const Damage damage : kEveryDamage) {
+        SCOPED_TRACE(NameOf(damage));
+        const std::string text = Damaged(valid, CutInside(valid, "[Installed]"), damage);
+        Write("damaged.ini", text);
+        const ProfileFile profile = ProfileFile::Load(path);
+        if (damage == Damage::kEmpty) {
+            EXPECT_TRUE(profile.IsIntact());
+            EXPECT_FALSE(IsListedUnreadable(path));
+            continue;
+        }
+        EXPECT_FALSE(profile.IsIntact());
+        EXPECT_TRUE(IsListedUnreadable(path));
+        EXPECT_FALSE(SetOne(path, "Installed", "1", "1"));
+        EXPECT_TRUE(Read(path) == text) << "the file is kept";
+    }
+    Write("damaged.ini", valid);
+    EXPECT_TRUE(SetOne(path, "Installed", "1", "1"));
+    EXPECT_FALSE(IsListedUnreadable(path));
 }
 
 // Only the last reported state of each file is remembered, so that a
