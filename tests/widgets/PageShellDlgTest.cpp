@@ -1,7 +1,7 @@
-#include <QApplication>
 #include <Q9CfgE.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QPushButton>
 #include <memory>
 

@@ -12,7 +12,6 @@
 
 namespace {
 
-
 class ZoneFileTest : public testing::Test {
 protected:
     void SetUp() override { zone = OrvDMZ_Create(); }
