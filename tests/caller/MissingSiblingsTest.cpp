@@ -31,12 +31,15 @@ struct Call {
     uint32_t flags;
     int32_t resultWithRegistration;
     bool opensADialog;
+    // The wizard's own window is not part of this system yet: past the
+    // privilege gate its non-silent mode has nothing to show, so it is only
+    // held to the gate's answer, where function registration is missing.
+    bool onlyAtTheGate = false;
 };
 
-// The wizard's own window is not part of this system yet: its non-silent
-// mode is left out until it is.
 constexpr Call kCalls[] = {
     {"dialog", DMF_ModeDialog, 2, true},
+    {"wizard", DMF_ModeWizard, 0, false, true},
     {"silent policy", DMF_ModeDialog | DMF_Silent, 1, false},
     {"silent wizard", DMF_ModeWizard | DMF_Silent, 1, false},
     {"single page", DMF_ModeSinglePage, 2, true},
@@ -73,6 +76,7 @@ void ExpectResultsWith(unsigned subset) {
         int32_t page = 0;
         const int32_t result = doModal(0, call.flags | DMF_NoAuthenticate, &page, nullptr, nullptr);
         if (hasRegistration) {
+            if (call.onlyAtTheGate) continue;
             EXPECT_EQ(result, call.resultWithRegistration);
             EXPECT_EQ(cancel.Done(), call.opensADialog);
             continue;
