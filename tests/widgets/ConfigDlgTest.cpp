@@ -9,6 +9,7 @@
 #include "ShellTestSupport.h"
 #include "controls/HeaderStatic.h"
 #include "options/StoreKeys.h"
+#include "platform/ProblemReport.h"
 #include "q9cfgul.h"
 #include "session/ProcessState.h"
 #include "shell/ConfigDlg.h"
@@ -67,6 +68,32 @@ TEST_F(ConfigDlgTest, AStoreThatCannotBeWrittenIsSaidAndTheDialogStaysWithTheCha
     Click(2);
     EXPECT_EQ(dialog->result(), 2);
     EXPECT_EQ(Install().Read("Q9Cfg.dat"), "not a store file\n");
+}
+
+// A file found unreadable while the dialog is open is told when the next
+// page has been entered, and on OK before the store is saved; each once.
+TEST_F(ConfigDlgTest, FilesFoundUnreadableLaterAreToldAtThePageEnteredAndOnOk) {
+    Install().Write("zone.dat", "x");
+    Install().Write("rules.dat", "y");
+    const std::string zone = Install().PathOf("zone.dat");
+    const std::string rules = Install().PathOf("rules.dat");
+    Open(5, 0, {5, 7});
+    QApplication::processEvents();
+    ASSERT_TRUE(boxes.messages.empty());
+
+    platform::ReportUnreadableFile(zone, "the zone is damaged");
+    Select(7);
+    QApplication::processEvents();
+    ASSERT_EQ(boxes.messages.size(), 1u);
+    EXPECT_TRUE(IsUnreadableFilesNotice(boxes.messages[0], {zone})) << boxes.messages[0].text;
+
+    platform::ReportUnreadableFile(rules, "the rules are damaged");
+    Click(1);
+    ASSERT_EQ(boxes.messages.size(), 2u);
+    EXPECT_TRUE(IsUnreadableFilesNotice(boxes.messages[1], {rules})) << boxes.messages[1].text;
+    EXPECT_EQ(dialog->result(), 1);
+    platform::NoteReadableFile(zone);
+    platform::NoteReadableFile(rules);
 }
 
 TEST_F(ConfigDlgTest, NormalTree) {
