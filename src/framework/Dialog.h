@@ -36,6 +36,9 @@ public:
     void PostCommand(int id);
     // A command, as a button click or a posted command delivers it.
     virtual void OnCommand(int id);
+    // A private message a page sends to the dialog that carries it, at once;
+    // dialogs that have no use for a message ignore it.
+    virtual void OnPageMessage(int /*message*/) {}
 
     // The window's close button and Escape end as Cancel does.
     void reject() override;

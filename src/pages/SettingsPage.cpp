@@ -94,6 +94,10 @@ void CSettingsPage::PostToShell(int id) {
     if (auto* shell = dynamic_cast<CDialog*>(parentWidget())) shell->PostCommand(id);
 }
 
+void CSettingsPage::SendToShell(int message) {
+    if (auto* shell = dynamic_cast<CDialog*>(parentWidget())) shell->OnPageMessage(message);
+}
+
 void CSettingsPage::OnOK() {
     const auto* shell = dynamic_cast<const CDialog*>(parentWidget());
     const int defaultId = shell ? shell->DefaultButtonId() : 0;

@@ -28,6 +28,9 @@ class CSettingsPage : public QWidget {
 public:
     // The id of the static that covers a page that cannot work.
     static constexpr int kCoverNoticeId = 65535;
+    // The message a page sends its shell when the user chose another
+    // protection level (the wizard updates its buttons on it).
+    static constexpr int kLevelChangedMessage = 0x464;
 
     explicit CSettingsPage(int templateId);
     ~CSettingsPage() override;
@@ -94,6 +97,9 @@ protected:
     virtual bool OnInitDialog() { return true; }
     // The range handler: the user acted on control id (ids 10 to 65535).
     virtual void OnControlCommand(int /*id*/, ctl::Notification /*code*/) {}
+
+    // Hands message to the dialog that carries the page, at once.
+    void SendToShell(int message);
 
     QWidget* Control(int id) const { return ctl::Find(this, id); }
     int GetCheck(int id) const { return ctl::GetCheck(this, id); }
