@@ -3,8 +3,8 @@
 // caller would get for a request that could not be carried out.
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <cstdint>
+#include <cstring>
 #include <exception>
 #include <limits>
 
@@ -15,6 +15,7 @@
 #include "policy/PolicyPlan.h"
 #include "policy/PolicyReport.h"
 #include "policy/RecordedApply.h"
+#include "policy/WizardDefaults.h"
 #include "portblock/RuleFile.h"
 #include "q9cfgul.h"
 #include "session/DiagLog.h"
@@ -124,7 +125,7 @@ int32_t RunDialogMode(uint64_t parent, uint32_t flags, int32_t page, int32_t* pa
 int32_t RunWizardMode(uint64_t parent, uint32_t flags) {
     g_bInWizard = 1;
     if (flags & DMF_Silent) {
-        RunSilentWizard(flags);
+        ApplyWizardDefaults(flags);
         return 1;
     }
     return RunWizard(parent, flags);
@@ -205,8 +206,8 @@ Q9CFGUL_API int32_t Q9CfgUL_MsgBox(int32_t kind, uint32_t value) {
 
 Q9CFGUL_API int32_t Q9CfgUL_Report(void) { return 1; }
 
-Q9CFGUL_API int32_t Q9CfgUL_PolicyDiff(uint32_t flags, const char* basePath,
-                                       const char* policyPath, char* buffer, uint32_t* size) {
+Q9CFGUL_API int32_t Q9CfgUL_PolicyDiff(uint32_t flags, const char* basePath, const char* policyPath,
+                                       char* buffer, uint32_t* size) {
     return Guarded(-1, [&] {
         if (!size) return int32_t{-1};
         const CSession session(CSession::kSilent);

@@ -3,6 +3,7 @@
 #include "framework/GuiApplication.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
+#include "shell/WizardDlg.h"
 
 // The caller's window is a window of another toolkit, often of another
 // process: the dialogs are top-level windows of their own.
@@ -14,12 +15,14 @@ int32_t RunConfigDialog(uint64_t, uint32_t flags, int32_t page, int32_t* lastPag
     return result;
 }
 
-int32_t RunWizard(uint64_t, uint32_t) { return CDialog::kNotMade; }
+int32_t RunWizard(uint64_t, uint32_t flags) {
+    if (!EnsureGuiApplication()) return CDialog::kNotMade;
+    CWizardDlg dialog(flags, nullptr);
+    return dialog.DoModal();
+}
 
 int32_t RunSinglePage(uint64_t, uint32_t flags, int32_t page) {
     if (!EnsureGuiApplication()) return CDialog::kNotMade;
     CPageShellDlg dialog(page, flags, nullptr);
     return dialog.DoModal();
 }
-
-void RunSilentWizard(uint32_t) {}

@@ -12,5 +12,3 @@ int32_t RunConfigDialog(uint64_t parent, uint32_t flags, int32_t page, int32_t* 
 int32_t RunWizard(uint64_t parent, uint32_t flags);
 // Mode 2: one page in its own shell.
 int32_t RunSinglePage(uint64_t parent, uint32_t flags, int32_t page);
-// Silent mode 1: the wizard's settings without a window.
-void RunSilentWizard(uint32_t flags);

@@ -284,9 +284,13 @@ TEST_F(DoModalTest, TheWizardModeHasNoSingleInstanceCheck) {
     QObject::connect(&beacon, &WindowBeacon::broughtForward, [&forwarded] { ++forwarded; });
     platform::SharedWord word(std::getenv("Q9_CONFIG_WINDOW_WORD"));
     word.Exchange(beacon.Token());
-    // The wizard itself is not part of this build: it answers as a dialog
-    // that cannot be made, but it is not turned away by the open window.
-    EXPECT_EQ(doModal(0, DMF_ModeWizard | DMF_NoAuthenticate, nullptr, nullptr, nullptr), -1);
+    bool opened = false;
+    DialogDriver cancel([&opened](QDialog* dialog) {
+        opened = true;
+        dialog->reject();
+    });
+    EXPECT_EQ(doModal(0, DMF_ModeWizard | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
+    EXPECT_TRUE(opened) << "the wizard is not turned away by the open window";
     EXPECT_EQ(forwarded, 0);
     EXPECT_EQ(word.Load(), beacon.Token());
     word.Exchange(0);
@@ -308,4 +312,29 @@ TEST_F(DoModalTest, AWindowWordNobodyAnswersForIsClearedAndTheDialogOpens) {
     EXPECT_EQ(doModal(0, DMF_ModeDialog | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 2);
     EXPECT_TRUE(opened);
     EXPECT_EQ(word.Load(), 0u);
+}
+
+TEST_F(DoModalTest, TheSilentWizardRegistersTheDefaultFunctionsWithoutAWindow) {
+    Install({"Q9SSCtrl"});
+    BoxAnswerer boxes;
+    EXPECT_EQ(doModal(0, DMF_ModeWizard | DMF_Silent, nullptr, nullptr, nullptr), 1);
+    EXPECT_TRUE(boxes.boxes.empty());
+    EXPECT_FALSE(AnyWindowShown());
+    const std::string journal = Journal();
+    for (const char* item : {"0", "1", "32", "64", "112", "128", "144", "160", "176", "192"}) {
+        EXPECT_NE(journal.find(std::string("Q9SSCtrl_Register\t") + item + "\t-\t1\n"),
+                  std::string::npos)
+            << item;
+    }
+    EXPECT_EQ(Q9CfgE_GetDWEx(14, 42), 0xF3u) << "the scan switches";
+    EXPECT_EQ(Q9CfgE_GetDWEx(14, 44), 0xD000u) << "the mail switches";
+}
+
+TEST_F(DoModalTest, TheWizardsFinishCommitsAndTellsTheServices) {
+    Install({"Q9SSCtrl"});
+    DialogDriver finish(
+        [](QDialog* dialog) { DialogDriver::Find<QPushButton>(dialog, 1)->click(); });
+    EXPECT_EQ(doModal(0, DMF_ModeWizard | DMF_NoAuthenticate, nullptr, nullptr, nullptr), 1);
+    EXPECT_TRUE(finish.Done());
+    EXPECT_NE(Journal().find("Q9SSCtrl_SetCfgChanged\t32\t-\t1\n"), std::string::npos);
 }

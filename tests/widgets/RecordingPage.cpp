@@ -40,6 +40,7 @@ void RecordingPage::Record(const std::string& call) {
 
 void RecordingPage::OnSave() { Record("Save"); }
 void RecordingPage::Apply() { Record("Apply"); }
+void RecordingPage::SaveScheduleDefaults() { Record("SaveScheduleDefaults"); }
 int32_t RecordingPage::Validate() {
     Record("Validate");
     return validateAnswer;

@@ -31,6 +31,7 @@ public:
     static void RegisterTemplate();
 
     void Apply() override;
+    void SaveScheduleDefaults() override;
     int32_t Validate() override;
     int32_t OnDefault() override;
     int32_t CanDefault() override;

@@ -32,6 +32,7 @@
 #include "pages/targets/ScanListDlg.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
+#include "shell/WizardDlg.h"
 #include "support/TestPaths.h"
 
 namespace {
@@ -187,6 +188,9 @@ TEST_P(TextFitTest, EveryTextOfEveryFormFitsItsControl) {
     QWidget pageShellForm;
     Ui::Dialog1001().setupUi(&pageShellForm);
     CheckForm(pageShellForm, CPageShellDlg::kTemplateId);
+    QWidget wizardForm;
+    Ui::Dialog1002().setupUi(&wizardForm);
+    CheckForm(wizardForm, CWizardDlg::kTemplateId);
 }
 
 TEST_P(TextFitTest, EveryTextOfTheTargetDialogsFitsItsControl) {

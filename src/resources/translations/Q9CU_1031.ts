@@ -17,6 +17,29 @@
     </message>
 </context>
 <context>
+    <name>Dialog1002</name>
+    <message>
+        <source>Configuration Wizard</source>
+        <translation>Konfigurationsassistent</translation>
+    </message>
+    <message>
+        <source>&lt;  Back</source>
+        <translation>&lt;  Zurück</translation>
+    </message>
+    <message>
+        <source>Next  &gt;</source>
+        <translation>Weiter  &gt;</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig stellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1007</name>
     <message>
         <source>Set List to Scan</source>
