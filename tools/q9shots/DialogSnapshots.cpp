@@ -19,6 +19,9 @@
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
 #include "schedule/ScheduleEntry.h"
+#include "session/ProcessState.h"
+#include "session/StoreCommit.h"
+#include "shell/WizardDlg.h"
 #include "targets/TargetList.h"
 
 namespace {
@@ -141,6 +144,32 @@ bool SaveAuthorization(const QString& folder) {
     return SaveDialog(dialog, CAuthorizationDlg::kTemplateId, folder);
 }
 
+// Each step of the configuration wizard, as dialog1002-step<n>.png, with the
+// level Customized so that every step can be reached. The wizard is closed
+// without its Cancel, which would leave the product with the default
+// functions: the working copy is dropped, and nothing is changed.
+bool SaveConfigWizard(const QString& folder) {
+    CWizardDlg dialog(0, nullptr);
+    if (!dialog.Create()) return false;
+    dialog.show();
+    bool saved = true;
+    for (int step = 0; step < dialog.StepCount() && saved; ++step) {
+        if (step == 0) {
+            saved =
+                SaveShown(dialog, QString("dialog%1-step1").arg(CWizardDlg::kTemplateId), folder);
+            g_nProtectLevel = kProtectLevelCustomized;
+            dialog.OnPageMessage(CSettingsPage::kLevelChangedMessage);
+            continue;
+        }
+        dialog.OnCommand(CWizardDlg::kNextButton);
+        saved = SaveShown(
+            dialog, QString("dialog%1-step%2").arg(CWizardDlg::kTemplateId).arg(step + 1), folder);
+    }
+    dialog.hide();
+    DropWorkingCopy();
+    return saved;
+}
+
 }  // namespace
 
 int SaveTargetDialogs(const QString& folder) {
@@ -148,6 +177,7 @@ int SaveTargetDialogs(const QString& folder) {
                        SaveAdvancedScan(kAdvancedSystemScan, 0, folder) &&
                        // The monitor's scan options; its file types are the tab above.
                        SaveAdvancedScan(kAdvancedMonitor, 1, folder) &&
-                       SaveScheduleWizard(folder) && SaveAuthorization(folder);
+                       SaveScheduleWizard(folder) && SaveAuthorization(folder) &&
+                       SaveConfigWizard(folder);
     return saved ? 0 : 1;
 }

@@ -8,8 +8,9 @@
 // folders" (1028) as it opens, "Add extensions" (1029) with a text typed
 // in, and each tab of "Advanced Scan Setting" (1038) of the system scan and
 // of the system monitoring, to <folder>/dialog1038-page<page>.png, both
-// pages of the schedule wizard (dialog1009-page<n>.png) and the
-// authorization dialog (1024). Prints
+// pages of the schedule wizard (dialog1009-page<n>.png), the authorization
+// dialog (1024) and each step of the configuration wizard
+// (dialog1002-step<n>.png). Prints
 // each file name; returns the process's exit code. Runs inside a session, so
 // that the session's language is used.
 int SaveTargetDialogs(const QString& folder);
