@@ -1,5 +1,6 @@
 #include "pages/PageRegistry.h"
 
+#include "pages/easy/EasyConfigPage.h"
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
@@ -64,7 +65,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Unbuilt(kWizardFeature, 1004, 0),
     Built<CScheduleTimePage>(kScheduleTime, 0),
     Built<CScheduleScanPage>(kScheduleScan, 0),
-    Unbuilt(kEasyConfig, 1030, 1),
+    Built<CEasyConfigPage>(kEasyConfig, 1),
     Built<CMessengerPage>(kMessenger, 21),
     Built<CStartupPage>(kStartup, 22),
     Unbuilt(kSpam, 1033, 23),
