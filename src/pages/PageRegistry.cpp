@@ -1,6 +1,7 @@
 #include "pages/PageRegistry.h"
 
 #include "pages/easy/EasyConfigPage.h"
+#include "pages/easy/WizardScanPage.h"
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
@@ -61,7 +62,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CExcludePage>(kExclude, 2),
     Built<CSecurityPage>(kSecurity, 14),
     Built<CPolicyPage>(kPolicy, 3),
-    Unbuilt(kWizardScan, 1003, 0),
+    Built<CWizardScanPage>(kWizardScan, 0),
     Unbuilt(kWizardFeature, 1004, 0),
     Built<CScheduleTimePage>(kScheduleTime, 0),
     Built<CScheduleScanPage>(kScheduleScan, 0),

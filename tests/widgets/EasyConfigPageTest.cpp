@@ -164,6 +164,11 @@ TEST_F(EasyConfigPageTest, TheTitleIsBoldAndTheReportListHasTheButtonFaceBackgro
     EXPECT_EQ(report->topLevelItemCount(), 0);
 }
 
+TEST_F(EasyConfigPageTest, TheSliderIsNamedForScreenReaders) {
+    CEasyConfigPage* page = Make(kProtectLevelMedium);
+    EXPECT_EQ(SliderOf(page)->accessibleName().toStdString(), "Protection Level");
+}
+
 TEST_F(EasyConfigPageTest, SetIconsGivesPicture13) {
     CEasyConfigPage* page = Make(kProtectLevelMedium);
     const ImageList icons = ImageList::PageIcons();

@@ -19,6 +19,8 @@
 #include "pages/targets/AddFolderDlg.h"
 #include "pages/targets/ScanListDlg.h"
 #include "schedule/ScheduleEntry.h"
+#include "session/PageId.h"
+#include "shell/PageShellDlg.h"
 #include "targets/TargetList.h"
 
 namespace {
@@ -141,6 +143,21 @@ bool SaveAuthorization(const QString& folder) {
     return SaveDialog(dialog, CAuthorizationDlg::kTemplateId, folder);
 }
 
+// The configuration wizard's scan step, shown by itself, as
+// <folder>/dialog1001-page19.png.
+bool SaveWizardScanPage(const QString& folder) {
+    CPageShellDlg dialog(ToInt(PageId::kWizardScan), 0, nullptr);
+    dialog.SetOwnsStore(0);
+    if (!dialog.Create()) return false;
+    dialog.show();
+    const bool saved = SaveShown(
+        dialog,
+        QString("dialog%1-page%2").arg(CPageShellDlg::kTemplateId).arg(ToInt(PageId::kWizardScan)),
+        folder);
+    dialog.reject();
+    return saved;
+}
+
 }  // namespace
 
 int SaveTargetDialogs(const QString& folder) {
@@ -148,6 +165,7 @@ int SaveTargetDialogs(const QString& folder) {
                        SaveAdvancedScan(kAdvancedSystemScan, 0, folder) &&
                        // The monitor's scan options; its file types are the tab above.
                        SaveAdvancedScan(kAdvancedMonitor, 1, folder) &&
-                       SaveScheduleWizard(folder) && SaveAuthorization(folder);
+                       SaveScheduleWizard(folder) && SaveAuthorization(folder) &&
+                       SaveWizardScanPage(folder);
     return saved ? 0 : 1;
 }

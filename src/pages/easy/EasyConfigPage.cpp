@@ -8,10 +8,13 @@
 #include "session/ProcessState.h"
 #include "session/ProtectionLevel.h"
 #include "session/StoreCommit.h"
+#include "text/StringTable.h"
 
 namespace {
 
 constexpr int kLevelPicture = 13;
+// "Protection Level": the slider has no label of its own in the form.
+constexpr uint32_t kProtectionLevelText = 1439;
 constexpr int kTitleWeight = 700;
 // ApplyConfiguration's third argument: register the system monitor.
 constexpr int32_t kRegisterMonitor = 1;
@@ -38,6 +41,7 @@ void CEasyConfigPage::PrepareControls() {
     m_ui.reportList->setPalette(palette);
 
     QSlider* slider = m_ui.levelSlider;
+    slider->setAccessibleName(QString::fromStdString(LoadString(kProtectionLevelText)));
     connect(slider, &QSlider::valueChanged, this,
             [this, slider] { OnSliderNotice(!slider->isSliderDown()); });
     connect(slider, &QSlider::sliderReleased, this, [this] { OnSliderNotice(true); });
