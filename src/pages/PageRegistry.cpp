@@ -1,5 +1,7 @@
 #include "pages/PageRegistry.h"
 
+#include "pages/easy/EasyConfigPage.h"
+#include "pages/easy/WizardScanPage.h"
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
@@ -60,11 +62,11 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CExcludePage>(kExclude, 2),
     Built<CSecurityPage>(kSecurity, 14),
     Built<CPolicyPage>(kPolicy, 3),
-    Unbuilt(kWizardScan, 1003, 0),
+    Built<CWizardScanPage>(kWizardScan, 0),
     Unbuilt(kWizardFeature, 1004, 0),
     Built<CScheduleTimePage>(kScheduleTime, 0),
     Built<CScheduleScanPage>(kScheduleScan, 0),
-    Unbuilt(kEasyConfig, 1030, 1),
+    Built<CEasyConfigPage>(kEasyConfig, 1),
     Built<CMessengerPage>(kMessenger, 21),
     Built<CStartupPage>(kStartup, 22),
     Unbuilt(kSpam, 1033, 23),

@@ -4,6 +4,9 @@
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
 #include "session/ProcessState.h"
+#include "session/StoreCommit.h"
+#include "text/StringTable.h"
+#include "text/TextFormat.h"
 
 namespace {
 
@@ -26,7 +29,57 @@ struct PasswordProtection {
     }
 };
 
+// The texts of a level: its name and the lines of its description.
+struct LevelTexts {
+    uint32_t level;
+    uint32_t name;
+    uint32_t lines[3];
+};
+
+constexpr uint32_t kProtectionLevelText = 1439;
+constexpr uint32_t kCustomizedInWizardText = 1451;
+
+constexpr LevelTexts kLevels[kLevelPositions] = {
+    {kProtectLevelHigh, 1428, {1440, 1441, 1442}},
+    {kProtectLevelMedium, 1429, {1443, 1444, 1445}},
+    {kProtectLevelLow, 1430, {1446, 1447, 1448}},
+    {kProtectLevelCustomized, 1431, {1449, 1450, 0}},
+};
+
+const LevelTexts& TextsOf(uint32_t level) {
+    const int position = PositionOfLevel(level);
+    return kLevels[position < 0 ? kLevelPositions - 1 : position];
+}
+
 }  // namespace
+
+uint32_t LevelAtPosition(int position) {
+    if (position < 0 || position >= kLevelPositions) return kProtectLevelCustomized;
+    return kLevels[position].level;
+}
+
+int PositionOfLevel(uint32_t level) {
+    for (int position = 0; position < kLevelPositions; ++position) {
+        if (kLevels[position].level == level) return position;
+    }
+    return -1;
+}
+
+std::string LevelTitle(uint32_t level) {
+    return FormatText("%s - %s", LoadString(kProtectionLevelText).c_str(),
+                      LoadString(TextsOf(level).name).c_str());
+}
+
+std::string LevelDescription(uint32_t level, bool inWizard) {
+    const LevelTexts& texts = TextsOf(level);
+    const std::string first = LoadString(texts.lines[0]);
+    if (texts.level == kProtectLevelCustomized) {
+        const uint32_t second = inWizard ? kCustomizedInWizardText : texts.lines[1];
+        return FormatText("- %s\n- %s\n", first.c_str(), LoadString(second).c_str());
+    }
+    return FormatText("- %s\n- %s\n- %s\n", first.c_str(), LoadString(texts.lines[1]).c_str(),
+                      LoadString(texts.lines[2]).c_str());
+}
 
 std::string LevelFileName(uint32_t level) {
     switch (level) {

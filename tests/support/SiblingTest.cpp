@@ -16,7 +16,10 @@ namespace fs = std::filesystem;
 
 SiblingTest::SiblingTest()
     : m_savedModuleDir(g_szModuleDir),
+      m_savedProtectLevel(g_nProtectLevel),
+      m_savedLevelApplied(g_bLevelApplied),
       m_savedLevelPending(g_bLevelPending),
+      m_savedInWizard(g_bInWizard),
       m_savedScheduleDirty(g_bScheduleDirty) {
     g_Siblings.Release();
     g_Siblings.MarkPending(0, kAllSwitchBits);
@@ -31,7 +34,10 @@ SiblingTest::~SiblingTest() {
     g_Siblings.MarkPending(0, kAllSwitchBits);
     ResetStore();
     g_szModuleDir = m_savedModuleDir;
+    g_nProtectLevel = m_savedProtectLevel;
+    g_bLevelApplied = m_savedLevelApplied;
     g_bLevelPending = m_savedLevelPending;
+    g_bInWizard = m_savedInWizard;
     g_bScheduleDirty = m_savedScheduleDirty;
 }
 

@@ -4,7 +4,9 @@
 // installation directory of its own per test, which is also g_szModuleDir,
 // so that each test chooses which sibling libraries exist there. The
 // bindings are released, the pending mask and the session's flags cleared
-// and the store put back on the test's live file before and after each test.
+// and the store put back on the test's live file before and after each test;
+// the protection level, the level flags and the wizard flag are restored
+// after it.
 
 #include <gtest/gtest.h>
 
@@ -43,7 +45,10 @@ private:
 
     TemporaryInstallation m_install;
     std::string m_savedModuleDir;
+    uint32_t m_savedProtectLevel = 0;
+    int32_t m_savedLevelApplied = 0;
     int32_t m_savedLevelPending = 0;
+    int32_t m_savedInWizard = 0;
     int32_t m_savedScheduleDirty = 0;
 };
 

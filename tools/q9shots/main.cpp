@@ -1,6 +1,7 @@
 // q9shots: renders the configuration dialog of an installation to PNG files,
 // one per page of its tree (or, with --dialogs, the dialogs that edit what a
-// scan covers), for machines without a display and for the documentation.
+// scan covers and the wizard's scan step), for machines without a display
+// and for the documentation.
 // It runs the dialogs of the library it is linked with, on the
 // installation it lies in (or Q9_INSTALL_DIR), and changes nothing: every
 // dialog ends as Cancel does.
@@ -22,8 +23,9 @@ void PrintUsage(FILE* to) {
         "DIR/<edition>-page<id>.png\n"
         "(DIR defaults to ./screenshots) and prints the file names. 'installed' (the default)\n"
         "uses the edition of the installation's secure profile. --dialogs renders the dialogs\n"
-        "that edit what a scan covers instead, to DIR/dialog<template>.png (a dialog with\n"
-        "tabs: DIR/dialog<template>-page<page>.png, one per tab).\n",
+        "that edit what a scan covers and the wizard's scan step instead, to\n"
+        "DIR/dialog<template>.png (a dialog with tabs or pages:\n"
+        "DIR/dialog<template>-page<page>.png, one per tab or page).\n",
         to);
 }
 

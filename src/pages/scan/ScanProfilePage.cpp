@@ -6,10 +6,10 @@
 #include "controls/IconStatic.h"
 #include "framework/ImageList.h"
 #include "options/ScanBits.h"
-#include "pages/scan/AdvancedScanDlg.h"
 #include "options/StoreKeys.h"
 #include "options/SwitchWord.h"
 #include "pages/RegisteredValues.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "pages/scan/ProfileCodecs.h"
 #include "session/RegistrationBinding.h"
 #include "session/SiblingLibs.h"
@@ -32,12 +32,9 @@ constexpr int kMiddleState = 2;
 
 uint32_t TextOf(RepairableAction action) {
     switch (action) {
-        case RepairableAction::Repair:
-            return 402;
-        case RepairableAction::Delete:
-            return 404;
-        case RepairableAction::LeaveAsIs:
-            break;
+        case RepairableAction::Repair: return 402;
+        case RepairableAction::Delete: return 404;
+        case RepairableAction::LeaveAsIs: break;
     }
     return 400;
 }
@@ -46,14 +43,10 @@ uint32_t TextOfDelete(bool remove) { return remove ? 404 : 400; }
 
 uint32_t TextOf(ExecutingAction action) {
     switch (action) {
-        case ExecutingAction::VerifyFirst:
-            return 405;
-        case ExecutingAction::ForcedTermination:
-            return 406;
-        case ExecutingAction::Restart:
-            return 407;
-        case ExecutingAction::LeaveAsIs:
-            break;
+        case ExecutingAction::VerifyFirst: return 405;
+        case ExecutingAction::ForcedTermination: return 406;
+        case ExecutingAction::Restart: return 407;
+        case ExecutingAction::LeaveAsIs: break;
     }
     return 400;
 }
@@ -110,7 +103,8 @@ void CScanProfilePage::BindBlock(const ScanBlock& block) {
     if (block.executableFiles)
         m_bind.Radios({block.executableFiles, block.allFiles}, options, FileTypeRadioCodec());
     if (block.backup) m_bind.Check(block.backup, policy, BackupCodec());
-    if (block.repairable) m_bind.Combo(block.repairable, policy, RepairableCodec(m_traits.repairable));
+    if (block.repairable)
+        m_bind.Combo(block.repairable, policy, RepairableCodec(m_traits.repairable));
     if (block.unrepairable)
         m_bind.Combo(block.unrepairable, policy, UnrepairableCodec(m_traits.deletesUnrepairable));
     if (block.compressedFiles)
@@ -141,8 +135,9 @@ void CScanProfilePage::DisableUnregistrable() {
 }
 
 void CScanProfilePage::SetIcons(const ImageList* icons) {
-    const std::pair<int, int> pictures[] = {
-        {kScanIcon, kScanPicture}, {kRepairIcon, kRepairPicture}, {kThirdIcon, m_traits.thirdPicture}};
+    const std::pair<int, int> pictures[] = {{kScanIcon, kScanPicture},
+                                            {kRepairIcon, kRepairPicture},
+                                            {kThirdIcon, m_traits.thirdPicture}};
     for (const auto& [id, picture] : pictures) {
         if (auto* icon = qobject_cast<CIconStatic*>(Control(id))) icon->SetImage(icons, picture);
     }
@@ -160,14 +155,17 @@ void CScanProfilePage::Load() {
 }
 
 void CScanProfilePage::SaveMore() {
-    if (m_traits.forcedOptions != 0) {
-        const StoreAddress options = Address(CEK_ScanOptions);
-        m_bind.Home().Write(options, m_bind.Home().Word(options) | m_traits.forcedOptions);
-    }
+    WriteForcedOptions();
     SaveRelated();
     uint32_t pending = 0;
     for (const PageFunction& function : m_functions) pending |= SwitchBitOf(function.code);
     if (pending != 0) Context().Siblings().MarkPending(pending, 0);
+}
+
+void CScanProfilePage::WriteForcedOptions() {
+    if (m_traits.forcedOptions == 0) return;
+    const StoreAddress options = Address(CEK_ScanOptions);
+    m_bind.Home().Write(options, m_bind.Home().Word(options) | m_traits.forcedOptions);
 }
 
 void CScanProfilePage::Apply() {
@@ -212,14 +210,12 @@ void CScanProfilePage::EditAdvanced() {
 }
 
 void CScanProfilePage::OnControlCommand(int id, ctl::Notification code) {
-    if (id == kCompressedBox && GetCheck(id) == kMiddleState)
-        SetCheck(id, 0);
+    if (id == kCompressedBox && GetCheck(id) == kMiddleState) SetCheck(id, 0);
     if (id == kAdvancedButton && code == ctl::Notification::kClicked &&
         m_traits.advancedVariant != ScanPageTraits::kNoAdvanced)
         EditAdvanced();
     for (const PageFunction& function : m_functions) {
-        if (id == ctl::IdOf(function.box) && code == ctl::Notification::kClicked)
-            m_needApply = 1;
+        if (id == ctl::IdOf(function.box) && code == ctl::Notification::kClicked) m_needApply = 1;
     }
     OnPageCommand(id, code);
 }

@@ -51,8 +51,8 @@ struct ScanPageTraits {
     // The advanced dialog hides "Incremental Scan".
     int32_t noIncremental = 0;
     // The meanings of the combos' items, in item order.
-    std::vector<RepairableAction> repairable = {
-        RepairableAction::LeaveAsIs, RepairableAction::Repair, RepairableAction::Delete};
+    std::vector<RepairableAction> repairable = {RepairableAction::LeaveAsIs,
+                                                RepairableAction::Repair, RepairableAction::Delete};
     std::vector<bool> deletesUnrepairable = {false, true};
     std::vector<bool> deletesCompressed = {false, true};
     std::vector<ExecutingAction> executing = {
@@ -103,6 +103,8 @@ protected:
 
     StoreAddress Address(uint32_t key) const { return {m_traits.section, key}; }
     const ScanPageTraits& Traits() const { return m_traits; }
+    // Sets the bits of key 10 that every save sets, in the binder's home.
+    void WriteForcedOptions();
     // Whether the range's function box is checked; true without one.
     bool FunctionOn() const;
     // Whether load, save and apply work: not on a covered page, unless it

@@ -40,6 +40,65 @@
     </message>
 </context>
 <context>
+    <name>Dialog1003</name>
+    <message>
+        <source>Scan Setting</source>
+        <translation>Prüfeinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan compressed files</source>
+        <translation>Komprimierte Dateien prüfen</translation>
+    </message>
+    <message>
+        <source>Executable files</source>
+        <translation>Ausführbare Dateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Advanced...</source>
+        <translation>Erweitert...</translation>
+    </message>
+    <message>
+        <source>Close the Scan View window automatically if viruses are not detected</source>
+        <translation>Prüffenster ohne Virenfund automatisch schließen</translation>
+    </message>
+    <message>
+        <source>Repair Setting</source>
+        <translation>Reparatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Auto Repair</source>
+        <translation>Automatisch reparieren</translation>
+    </message>
+    <message>
+        <source>Backup files before repairing or deleting</source>
+        <translation>Vor dem Reparieren oder Löschen sichern</translation>
+    </message>
+    <message>
+        <source>Repairable files</source>
+        <translation>Reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Unrepairable files</source>
+        <translation>Nicht reparierbare Dateien</translation>
+    </message>
+    <message>
+        <source>Compressed files</source>
+        <translation>Komprimierte Dateien</translation>
+    </message>
+    <message>
+        <source>Recompress after repairing(ZIP file)</source>
+        <translation>Nach Reparatur neu packen (ZIP)</translation>
+    </message>
+    <message>
+        <source>Executing files</source>
+        <translation>Laufende Dateien</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1007</name>
     <message>
         <source>Set List to Scan</source>
@@ -381,6 +440,13 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Dialog1030</name>
+    <message>
+        <source>Setting Status</source>
+        <translation>Einstellungsstatus</translation>
     </message>
 </context>
 <context>

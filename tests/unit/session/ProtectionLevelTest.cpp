@@ -58,6 +58,35 @@ TEST(LevelFileNameTest, NamesTheFileOfEachLevelAndNoneForOtherValues) {
     EXPECT_EQ(LevelFileName(0), "");
 }
 
+TEST(LevelPositionTest, TheSliderRunsFromHighAtTheTopToCustomized) {
+    EXPECT_EQ(LevelAtPosition(0), kProtectLevelHigh);
+    EXPECT_EQ(LevelAtPosition(1), kProtectLevelMedium);
+    EXPECT_EQ(LevelAtPosition(2), kProtectLevelLow);
+    EXPECT_EQ(LevelAtPosition(3), kProtectLevelCustomized);
+    for (int position = 0; position < kLevelPositions; ++position)
+        EXPECT_EQ(PositionOfLevel(LevelAtPosition(position)), position);
+}
+
+TEST(LevelPositionTest, AValueThatIsNoLevelHasNoPosition) {
+    for (const uint32_t value : {0u, 3u, 5u, 16u}) EXPECT_EQ(PositionOfLevel(value), -1) << value;
+    EXPECT_EQ(LevelAtPosition(-1), kProtectLevelCustomized);
+    EXPECT_EQ(LevelAtPosition(4), kProtectLevelCustomized);
+}
+
+TEST(LevelTextTest, AValueThatIsNoLevelReadsAsCustomized) {
+    EXPECT_EQ(LevelTitle(3), "Protection Level - Customized");
+    EXPECT_EQ(LevelDescription(3, false), LevelDescription(kProtectLevelCustomized, false));
+    EXPECT_EQ(LevelTitle(kProtectLevelLow), "Protection Level - Low");
+}
+
+TEST(LevelTextTest, OnlyCustomizedHasTwoLinesAndAWizardVariant) {
+    EXPECT_EQ(LevelDescription(kProtectLevelCustomized, true),
+              "- Block viruses according to configuration by function specified by the user\n"
+              "- Click [Next] to change configuration by function.\n");
+    EXPECT_EQ(LevelDescription(kProtectLevelHigh, true),
+              LevelDescription(kProtectLevelHigh, false));
+}
+
 TEST_F(ProtectionLevelTest, LoadsTheLevelFileIntoTheWorkingCopyAndMarksTheSession) {
     ApplyLevel(kProtectLevelHigh);
     EXPECT_EQ(Word(CES_General, CEK_ProtectLevel), kProtectLevelHigh);
