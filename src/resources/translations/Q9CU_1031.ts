@@ -2057,5 +2057,55 @@ They are left as they are. The settings they hold are shown with their default v
 
 Sie bleiben unverändert. Ihre Einstellungen werden mit den Standardwerten angezeigt, und Änderungen daran können erst gespeichert werden, wenn die Dateien repariert oder entfernt sind.</translation>
     </message>
+    <message>
+        <source>Can&apos;t open link:
+
+</source>
+        <translation>Der Link kann nicht geöffnet werden:
+
+</translation>
+    </message>
+    <message>
+        <source>The operating system is out
+of memory or resources.</source>
+        <translation>Das Betriebssystem hat keinen Speicher
+oder keine Ressourcen mehr.</translation>
+    </message>
+    <message>
+        <source>The specified file was not found.</source>
+        <translation>Die angegebene Datei wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The specified path was not found.</source>
+        <translation>Der angegebene Pfad wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The operating system denied
+access to the specified file.</source>
+        <translation>Das Betriebssystem hat den Zugriff
+auf die angegebene Datei verweigert.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to complete the operation.</source>
+        <translation>Für diesen Vorgang war nicht genügend Speicher vorhanden.</translation>
+    </message>
+    <message>
+        <source>The .EXE file is invalid
+(non-Win32 .EXE or error in .EXE image).</source>
+        <translation>Die Programmdatei ist ungültig
+(kein ausführbares Programm oder fehlerhaftes Abbild).</translation>
+    </message>
+    <message>
+        <source>A sharing violation occurred. </source>
+        <translation>Eine Freigabeverletzung ist aufgetreten. </translation>
+    </message>
+    <message>
+        <source>The specified dynamic-link library was not found.</source>
+        <translation>Die angegebene Programmbibliothek wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Unknown Error (%d) occurred.</source>
+        <translation>Unbekannter Fehler (%d) aufgetreten.</translation>
+    </message>
 </context>
 </TS>
