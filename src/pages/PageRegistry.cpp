@@ -1,5 +1,6 @@
 #include "pages/PageRegistry.h"
 
+#include "pages/easy/WizardFeaturePage.h"
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
 #include "pages/general/SecurityPage.h"
@@ -61,7 +62,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CSecurityPage>(kSecurity, 14),
     Built<CPolicyPage>(kPolicy, 3),
     Unbuilt(kWizardScan, 1003, 0),
-    Unbuilt(kWizardFeature, 1004, 0),
+    Built<CWizardFeaturePage>(kWizardFeature, 0),
     Built<CScheduleTimePage>(kScheduleTime, 0),
     Built<CScheduleScanPage>(kScheduleScan, 0),
     Unbuilt(kEasyConfig, 1030, 1),
