@@ -5,25 +5,29 @@
 // installation it lies in (or Q9_INSTALL_DIR), and changes nothing: every
 // dialog ends as Cancel does.
 //
-//   q9shots [--edition installed|normal|master|light] [--dialogs] [--out DIR]
+//   q9shots [--edition installed|normal|master|light] [--dialogs | --page ID] [--out DIR]
 
 #include <cstdio>
 #include <cstring>
 #include <string>
 
 #include "PageSnapshots.h"
+#include "session/PageId.h"
 
 namespace {
 
 void PrintUsage(FILE* to) {
     std::fputs(
-        "usage: q9shots [--edition installed|normal|master|light] [--dialogs] [--out DIR]\n"
+        "usage: q9shots [--edition installed|normal|master|light] [--dialogs | --page ID]\n"
+        "               [--out DIR]\n"
         "Renders the configuration dialog with each page of its tree to "
         "DIR/<edition>-page<id>.png\n"
         "(DIR defaults to ./screenshots) and prints the file names. 'installed' (the default)\n"
         "uses the edition of the installation's secure profile. --dialogs renders the dialogs\n"
         "that edit what a scan covers instead, to DIR/dialog<template>.png (a dialog with\n"
-        "tabs: DIR/dialog<template>-page<page>.png, one per tab).\n",
+        "tabs: DIR/dialog<template>-page<page>.png, one per tab). --page renders the page ID\n"
+        "(0 to 40) alone, as a shell carries it, to DIR/<edition>-page<ID>.png, also a page\n"
+        "that no tree shows, such as a step of the configuration wizard.\n",
         to);
 }
 
@@ -46,6 +50,16 @@ int main(int argc, char** argv) {
             }
         } else if (argument == "--dialogs") {
             request.targetDialogs = true;
+        } else if (argument == "--page" && hasValue) {
+            const std::string page = argv[++i];
+            if (page.empty() || page.size() > 2 ||
+                page.find_first_not_of("0123456789") != std::string::npos ||
+                std::stoi(page) >= kPageCount) {
+                std::fprintf(stderr, "q9shots: no page '%s'\n", page.c_str());
+                PrintUsage(stderr);
+                return 2;
+            }
+            request.pageId = std::stoi(page);
         } else if (argument == "--out" && hasValue) {
             request.outputDirectory = argv[++i];
         } else {
