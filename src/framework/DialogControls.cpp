@@ -11,6 +11,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "framework/NotifyingControl.h"
+
 namespace ctl {
 
 namespace {
@@ -186,6 +188,8 @@ void ConnectControl(QWidget* control, const CommandHandler& handler) {
     } else if (auto* plain = qobject_cast<QPlainTextEdit*>(control)) {
         QObject::connect(plain, &QPlainTextEdit::textChanged, control,
                          [handler, id] { handler(id, Notification::kEditChanged); });
+    } else if (auto* notifying = dynamic_cast<NotifyingControl*>(control)) {
+        notifying->ReportTo([handler, id](Notification code) { handler(id, code); });
     }
 }
 

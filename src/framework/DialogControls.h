@@ -59,8 +59,9 @@ bool IsEnabled(const QWidget* dialog, int id);
 bool IsShown(const QWidget* dialog, int id);
 
 // Calls handler(id, notification) whenever the user acts on a control of
-// dialog that has an id. Controls added later are connected by a new call
-// with them alone (ConnectControl).
+// dialog that has an id: buttons, edits, combo boxes, lists and the
+// program's own notifying controls (NotifyingControl). Controls added later are connected by a new
+// call with them alone (ConnectControl).
 using CommandHandler = std::function<void(int id, Notification code)>;
 void ConnectControls(QWidget* dialog, const CommandHandler& handler);
 void ConnectControl(QWidget* control, const CommandHandler& handler);

@@ -1,6 +1,7 @@
 #include "pages/PageRegistry.h"
 
 #include "pages/easy/EasyConfigPage.h"
+#include "pages/easy/WizardFeaturePage.h"
 #include "pages/easy/WizardScanPage.h"
 #include "pages/general/OtherConfigPage.h"
 #include "pages/general/PolicyPage.h"
@@ -63,7 +64,7 @@ constexpr std::array<PageRow, kPageCount> kRows = {{
     Built<CSecurityPage>(kSecurity, 14),
     Built<CPolicyPage>(kPolicy, 3),
     Built<CWizardScanPage>(kWizardScan, 0),
-    Unbuilt(kWizardFeature, 1004, 0),
+    Built<CWizardFeaturePage>(kWizardFeature, 0),
     Built<CScheduleTimePage>(kScheduleTime, 0),
     Built<CScheduleScanPage>(kScheduleScan, 0),
     Built<CEasyConfigPage>(kEasyConfig, 1),

@@ -78,8 +78,9 @@ void Reap(pid_t pid) {
 }
 
 // Reads the status records up to end of file. True when the program was
-// started and no step failed; its process id is then in *pid.
-bool ReadOutcome(int statusFd, pid_t* pid) {
+// started and no step failed; its process id is then in *pid. Otherwise
+// *error is the error number of the failed step.
+bool ReadOutcome(int statusFd, pid_t* pid, int* error) {
     bool started = false;
     bool failed = false;
     StatusRecord record{};
@@ -92,8 +93,10 @@ bool ReadOutcome(int statusFd, pid_t* pid) {
             *pid = record.value;
         } else {
             failed = true;
+            *error = record.value;
         }
     }
+    if (!started && !failed) *error = ECHILD;
     return started && !failed;
 }
 
@@ -113,11 +116,40 @@ int HighestDescriptor() {
     return limit > 0 && limit < 65536 ? static_cast<int>(limit) - 1 : 65535;
 }
 
+// Starts the plan through the intermediate process; true once the program
+// runs, with its process id in *pid, else the error number in *error.
+bool Launch(const LaunchPlan& plan, pid_t* pid, int* error) {
+    int status[2];
+    if (pipe2(status, O_CLOEXEC) != 0) {
+        *error = errno;
+        return false;
+    }
+    const pid_t intermediate = fork();
+    if (intermediate == 0) {
+        close(status[0]);
+        RunIntermediate(plan, status[1]);
+    }
+    if (intermediate < 0) *error = errno;
+    close(status[1]);
+    if (intermediate < 0) {
+        close(status[0]);
+        return false;
+    }
+    Reap(intermediate);
+    const bool started = ReadOutcome(status[0], pid, error);
+    close(status[0]);
+    return started;
+}
+
 }  // namespace
 
 bool StartProgram(const std::string& program, const std::vector<std::string>& arguments,
-                  const std::string& workingDirectory, int64_t* processId) {
-    if (program.empty()) return false;
+                  const std::string& workingDirectory, int64_t* processId, int* error) {
+    int failure = ENOENT;
+    if (program.empty()) {
+        if (error) *error = failure;
+        return false;
+    }
     // Everything the forked processes need is prepared here, before the fork.
     const std::string path = ProgramPath(program);
     std::vector<char*> argv;
@@ -129,23 +161,10 @@ bool StartProgram(const std::string& program, const std::vector<std::string>& ar
                           workingDirectory.empty() ? nullptr : workingDirectory.c_str(),
                           HighestDescriptor()};
 
-    int status[2];
-    if (pipe2(status, O_CLOEXEC) != 0) return false;
-    const pid_t intermediate = fork();
-    if (intermediate == 0) {
-        close(status[0]);
-        RunIntermediate(plan, status[1]);
-    }
-    close(status[1]);
-    if (intermediate < 0) {
-        close(status[0]);
-        return false;
-    }
-    Reap(intermediate);
     pid_t pid = 0;
-    const bool started = ReadOutcome(status[0], &pid);
-    close(status[0]);
+    const bool started = Launch(plan, &pid, &failure);
     if (started && processId) *processId = pid;
+    if (!started && error) *error = failure;
     return started;
 }
 

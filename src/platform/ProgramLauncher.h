@@ -22,8 +22,11 @@ namespace platform {
 //
 // True once the program is running; its process id is then stored in
 // *processId when given. False when it could not be started: the program is
-// missing or not executable, or the working directory cannot be entered.
+// missing or not executable, or the working directory cannot be entered; the
+// system's error number of the step that failed (ENOENT for an empty
+// program) is then stored in *error when given.
 bool StartProgram(const std::string& program, const std::vector<std::string>& arguments,
-                  const std::string& workingDirectory, int64_t* processId = nullptr);
+                  const std::string& workingDirectory, int64_t* processId = nullptr,
+                  int* error = nullptr);
 
 }  // namespace platform

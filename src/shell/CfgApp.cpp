@@ -5,6 +5,7 @@
 #include "framework/QtMessageService.h"
 #include "session/DiagLog.h"
 #include "session/ProcessState.h"
+#include "shell/PageShellDlg.h"
 
 namespace {
 
@@ -18,5 +19,6 @@ void CCfgApp::InitInstance() {
         InitProcessState();
         g_Log.Open(CDiagLog::kDefaultPath);
         MessageService::Install(&g_qtMessages);
+        CPageShellDlg::ServeNestedPages();
     });
 }

@@ -2,7 +2,7 @@
 
 // The application object of the library: what runs once when the library is
 // first used (host flags, the library's directory, the diagnostic log, the
-// message service).
+// message service, the nested page dialog).
 
 class CCfgApp {
 public:

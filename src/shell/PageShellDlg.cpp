@@ -115,3 +115,12 @@ void CPageShellDlg::ApplyPage() {
     CSettingsPage* page = Page();
     if (page && page->NeedApply()) page->Apply();
 }
+
+void CPageShellDlg::ServeNestedPages() {
+    NestedPageShell::Install(
+        [](PageId id, uint32_t flags, QWidget* parent) -> std::unique_ptr<NestedPageShell> {
+            auto shell = std::make_unique<CPageShellDlg>(ToInt(id), flags, parent);
+            shell->SetOwnsStore(0);
+            return shell;
+        });
+}

@@ -9,13 +9,14 @@
 
 #include "framework/FormDialog.h"
 #include "framework/ImageList.h"
+#include "pages/NestedPageShell.h"
 #include "shell/PageTable.h"
 #include "shell/UnreadableFilesNotice.h"
 #include "ui_Dialog1001.h"
 
 class ConfigWindowRegistration;
 
-class CPageShellDlg : public CFormDialog<Ui::Dialog1001> {
+class CPageShellDlg : public CFormDialog<Ui::Dialog1001>, public NestedPageShell {
 public:
     static constexpr int kTemplateId = 1001;
     static constexpr int kDefaultButton = 1034;
@@ -37,8 +38,13 @@ public:
     // For the opener of a nested shell: after the opener's Save, the page's
     // Save if it is modified; from the opener's Apply, the page's Apply if it
     // needs one.
-    void SavePage();
-    void ApplyPage();
+    void SavePage() override;
+    void ApplyPage() override;
+    int32_t Run() override { return DoModal(); }
+
+    // Makes this shell, nested, the dialog that pages open for pages of
+    // their own (NestedPageShell::Make).
+    static void ServeNestedPages();
 
     void OnCommand(int id) override;
 

@@ -362,6 +362,21 @@ constexpr StringEntry kStrings[] = {
                               "they are. The settings they hold are shown with their default "
                               "values, and changes to them cannot be saved until the files are "
                               "repaired or removed.")},
+    {57470, QT_TRANSLATE_NOOP("StringTable", "Can't open link:\n\n")},
+    {57471,
+     QT_TRANSLATE_NOOP("StringTable", "The operating system is out\nof memory or resources.")},
+    {57472, QT_TRANSLATE_NOOP("StringTable", "The specified file was not found.")},
+    {57473, QT_TRANSLATE_NOOP("StringTable", "The specified path was not found.")},
+    {57474, QT_TRANSLATE_NOOP("StringTable",
+                              "The operating system denied\naccess to the specified file.")},
+    {57475,
+     QT_TRANSLATE_NOOP("StringTable", "There was not enough memory to complete the operation.")},
+    {57476,
+     QT_TRANSLATE_NOOP("StringTable",
+                       "The .EXE file is invalid\n(non-Win32 .EXE or error in .EXE image).")},
+    {57477, QT_TRANSLATE_NOOP("StringTable", "A sharing violation occurred. ")},
+    {57478, QT_TRANSLATE_NOOP("StringTable", "The specified dynamic-link library was not found.")},
+    {57479, QT_TRANSLATE_NOOP("StringTable", "Unknown Error (%d) occurred.")},
 };
 
 constexpr bool IdsAscendUnique() {

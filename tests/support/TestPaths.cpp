@@ -28,10 +28,17 @@ std::map<std::string, std::string> ReadPaths() {
     return paths;
 }
 
+const std::map<std::string, std::string>& Paths() {
+    static const std::map<std::string, std::string> paths = ReadPaths();
+    return paths;
+}
+
 }  // namespace
 
+bool HasTestPath(const std::string& name) { return Paths().count(name) != 0; }
+
 std::string TestPath(const std::string& name) {
-    static const std::map<std::string, std::string> paths = ReadPaths();
+    const std::map<std::string, std::string>& paths = Paths();
     const auto it = paths.find(name);
     if (it == paths.end()) Stop("no path named \"" + name + "\"");
     return it->second;

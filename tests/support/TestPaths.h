@@ -12,3 +12,7 @@
 // The path recorded under name. A name the file lacks, or a missing file, is
 // a broken build: the program says so on standard error and stops.
 std::string TestPath(const std::string& name);
+
+// Whether the build recorded name: a program that only some build trees make
+// (q9shots is not in the sanitizer tree).
+bool HasTestPath(const std::string& name);

@@ -25,13 +25,14 @@
 #include "session/StoreCommit.h"
 #include "shell/ConfigDlg.h"
 #include "shell/PageShellDlg.h"
+#include "shell/WizardDlg.h"
 #include "support/TestPaths.h"
 
 namespace {
 
 // The forms that are not pages: the shells' dialogs.
-constexpr std::array<int, 2> kShellTemplates = {CConfigDlg::kTemplateId,
-                                                CPageShellDlg::kTemplateId};
+constexpr std::array<int, 3> kShellTemplates = {
+    CConfigDlg::kTemplateId, CPageShellDlg::kTemplateId, CWizardDlg::kTemplateId};
 // The forms of the dialogs that pages open.
 constexpr std::array<int, 6> kPageDialogTemplates = {
     CScanListDlg::kTemplateId,       CAddFolderDlg::kTemplateId,

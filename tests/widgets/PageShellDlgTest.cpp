@@ -4,9 +4,11 @@
 #include <QApplication>
 #include <QPushButton>
 #include <memory>
+#include <utility>
 
 #include "ShellTestSupport.h"
 #include "options/StoreKeys.h"
+#include "pages/NestedPageShell.h"
 #include "session/ProcessState.h"
 #include "shell/ConfigWindow.h"
 #include "shell/PageShellDlg.h"
@@ -192,6 +194,23 @@ TEST_F(PageShellDlgTest, TheOpenerForwardsSaveAndApply) {
     shell->ApplyPage();
     EXPECT_EQ(log.Only("Save"), std::vector<std::string>{"Save 33"});
     EXPECT_EQ(log.Only("Apply"), std::vector<std::string>{"Apply 33"});
+}
+
+TEST_F(PageShellDlgTest, PagesOpenThisShellNestedForPagesOfTheirOwn) {
+    NestedPageShell::Maker previous = NestedPageShell::Install(nullptr);
+    EXPECT_EQ(NestedPageShell::Make(PageId::kSystemMonitor, 0, nullptr), nullptr);
+    CPageShellDlg::ServeNestedPages();
+    QWidget opener;
+    std::unique_ptr<NestedPageShell> nested =
+        NestedPageShell::Make(PageId::kSystemMonitor, 0x40, &opener);
+    NestedPageShell::Install(std::move(previous));
+    auto* made = dynamic_cast<CPageShellDlg*>(nested.get());
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(made->OwnsStore(), 0);
+    EXPECT_EQ(made->parentWidget(), &opener);
+    ASSERT_TRUE(made->Create());
+    EXPECT_EQ(made->windowTitle(), "System monitoring");
+    EXPECT_EQ(made->Page()->GetFlags(), 0x40u);
 }
 
 }  // namespace

@@ -8,11 +8,13 @@
 #include <cstdlib>
 
 #include "DialogSnapshots.h"
+#include "framework/ImageList.h"
 #include "q9cfgul.h"
 #include "session/EditionFlags.h"
 #include "shell/CfgApp.h"
 #include "shell/ConfigDlg.h"
 #include "shell/ConfigWindow.h"
+#include "shell/PageTable.h"
 #include "shell/Session.h"
 #include "text/MessageService.h"
 
@@ -38,22 +40,48 @@ uint32_t FlagsFor(Edition edition) {
     return AddEditionFlags(0);
 }
 
+// Saves window as it shows now to <folder>/<edition>-page<page>.png and
+// prints the file's name; whether it was written.
+bool SavePicture(QWidget& window, const QString& folder, const char* edition, int page) {
+    QApplication::processEvents();
+    const QString file = QString("%1/%2-page%3.png").arg(folder, edition).arg(page);
+    if (!window.grab().save(file)) {
+        std::fprintf(stderr, "q9shots: cannot write %s\n", qPrintable(file));
+        return false;
+    }
+    std::printf("%s\n", qPrintable(QDir(file).absolutePath()));
+    return true;
+}
+
 // Selects every row in tree order and saves the dialog each time.
 int SaveEachPage(CConfigDlg& dialog, const QString& folder, const char* edition) {
     int saved = 0;
     for (QTreeWidgetItemIterator it(dialog.Tree()); *it; ++it) {
         dialog.Tree()->setCurrentItem(*it);
-        QApplication::processEvents();
-        const int page = (*it)->data(0, Qt::UserRole).toInt();
-        const QString file = QString("%1/%2-page%3.png").arg(folder, edition).arg(page);
-        if (!dialog.grab().save(file)) {
-            std::fprintf(stderr, "q9shots: cannot write %s\n", qPrintable(file));
-            return 1;
-        }
-        std::printf("%s\n", qPrintable(QDir(file).absolutePath()));
+        if (!SavePicture(dialog, folder, edition, (*it)->data(0, Qt::UserRole).toInt())) return 1;
         ++saved;
     }
     return saved > 0 ? 0 : 1;
+}
+
+// The page alone on a window of its size, made and loaded as a shell makes
+// it; nothing is saved.
+int SaveSinglePage(int pageId, uint32_t flags, const QString& folder, const char* edition) {
+    QWidget window;
+    CPageTable pages;
+    CSettingsPage* page = pages.Create(pageId, flags, &window);
+    if (!page) {
+        std::fprintf(stderr, "q9shots: page %d cannot be made\n", pageId);
+        return 1;
+    }
+    const ImageList icons = ImageList::PageIcons();
+    page->SetIcons(&icons);
+    window.resize(page->size());
+    page->show();
+    window.show();
+    const bool saved = SavePicture(window, folder, edition, pageId);
+    pages.DestroyAll();
+    return saved ? 0 : 1;
 }
 
 int SaveConfigDialog(uint32_t flags, const QString& folder, const char* edition) {
@@ -97,9 +125,16 @@ int RenderConfigDialog(const SnapshotRequest& request, int argc, char** argv) {
         std::fprintf(stderr, "q9shots: cannot make the folder %s\n", qPrintable(folder));
         return 1;
     }
-    const int result = request.targetDialogs ? SaveTargetDialogs(folder)
-                                             : SaveConfigDialog(FlagsFor(request.edition), folder,
-                                                                EditionName(request.edition));
+    const uint32_t flags = FlagsFor(request.edition);
+    const char* edition = EditionName(request.edition);
+    int result = 0;
+    if (request.targetDialogs) {
+        result = SaveTargetDialogs(folder);
+    } else if (request.pageId >= 0) {
+        result = SaveSinglePage(request.pageId, flags, folder, edition);
+    } else {
+        result = SaveConfigDialog(flags, folder, edition);
+    }
     MessageService::Install(nullptr);
     return result;
 }

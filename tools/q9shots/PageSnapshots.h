@@ -8,6 +8,7 @@ struct SnapshotRequest {
     Edition edition = Edition::kInstalled;
     std::string outputDirectory = "screenshots";
     bool targetDialogs = false;  // the target dialogs instead of the configuration dialog
+    int pageId = -1;             // one page alone instead of the configuration dialog
 };
 
 // "installed", "normal", "master" or "light"; false for anything else.
@@ -17,5 +18,7 @@ bool ParseEdition(const std::string& text, Edition* edition);
 // for, selects each page of its tree in turn and saves the dialog as
 // <out>/<edition>-page<id>.png, printing each file name; the dialog ends as
 // Cancel does. With targetDialogs, saves the target dialogs instead (see
-// DialogSnapshots.h). Returns the process's exit code.
+// DialogSnapshots.h). With a page id, saves that page alone, as a shell
+// carries it (also a page that no tree shows, such as a wizard step), to
+// <out>/<edition>-page<id>.png. Returns the process's exit code.
 int RenderConfigDialog(const SnapshotRequest& request, int argc, char** argv);

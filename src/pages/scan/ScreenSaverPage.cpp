@@ -2,8 +2,8 @@
 
 #include "options/StoreAccess.h"
 #include "options/StoreKeys.h"
-#include "pages/scan/AdvancedScanDlg.h"
 #include "options/SwitchWord.h"
+#include "pages/scan/AdvancedScanDlg.h"
 #include "pages/targets/ScanListDlg.h"
 #include "targets/TargetRecords.h"
 
@@ -23,7 +23,6 @@ ScanPageTraits ScreenSaverTraits() {
 }  // namespace
 
 CScreenSaverPage::CScreenSaverPage() : CScanFormPage(kTemplateId, ScreenSaverTraits()) {}
-
 
 std::vector<PageFunction> CScreenSaverPage::Functions() {
     return {{m_ui.functionBox, SSCT_SCRSAVER_SCAN, CEK_Switch_Scan}};
@@ -51,10 +50,7 @@ void CScreenSaverPage::OnPageCommand(int id, ctl::Notification code) {
 }
 
 void CScreenSaverPage::EditTargets() {
-    CScanListDlg dialog(EncodeTargetList(m_targets), this);
-    if (dialog.DoModal() != 1 || !dialog.IsChanged()) return;
-    const std::string& list = dialog.GetList();
-    m_targets = ParseTargetList(list.data(), list.size()).targets;
+    if (!CScanListDlg::EditTargets(&m_targets, this)) return;
     m_targetsChanged = true;
     MarkModified();
 }

@@ -37,3 +37,11 @@ void CScanListDlg::OnOK() {
     if (m_ui.targetTree->IsChanged()) m_changed = true;
     CFormDialog::OnOK();
 }
+
+bool CScanListDlg::EditTargets(std::vector<Target>* targets, QWidget* parent) {
+    CScanListDlg dialog(EncodeTargetList(*targets), parent);
+    if (dialog.DoModal() != 1 || !dialog.IsChanged()) return false;
+    const std::string& list = dialog.GetList();
+    *targets = ParseTargetList(list.data(), list.size()).targets;
+    return true;
+}

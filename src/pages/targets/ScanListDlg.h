@@ -7,8 +7,10 @@
 // the list. A list left empty means all local hard drives.
 
 #include <string>
+#include <vector>
 
 #include "framework/FormDialog.h"
+#include "targets/TargetList.h"
 #include "ui_Dialog1007.h"
 
 class CScanListDlg : public CFormDialog<Ui::Dialog1007> {
@@ -23,6 +25,10 @@ public:
     const std::string& GetList() const { return m_list; }
     // Whether the user changed the list before OK.
     bool IsChanged() const { return m_changed; }
+
+    // Edits targets in the dialog; true when the user changed them and
+    // pressed OK, and *targets is then the new list.
+    static bool EditTargets(std::vector<Target>* targets, QWidget* parent);
 
     void OnCommand(int id) override;
 

@@ -99,6 +99,89 @@
     </message>
 </context>
 <context>
+    <name>Dialog1004</name>
+    <message>
+        <source>System Monitoring</source>
+        <translation>Systemüberwachung</translation>
+    </message>
+    <message>
+        <source>Checks every file when it is opened, run or saved.</source>
+        <translation>Prüft jede Datei, wenn sie geöffnet, ausgeführt oder gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Internet Monitoring </source>
+        <translation>Internetüberwachung </translation>
+    </message>
+    <message>
+        <source>Scans files downloaded from the Internet before they are opened.</source>
+        <translation>Prüft aus dem Internet geladene Dateien, bevor sie geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Instant Messenger Monitoring</source>
+        <translation>Instant-Messenger-Überwachung</translation>
+    </message>
+    <message>
+        <source>Scans files received through instant messenger programs.</source>
+        <translation>Prüft über Instant-Messenger-Programme empfangene Dateien.</translation>
+    </message>
+    <message>
+        <source>Startup Program Monitoring </source>
+        <translation>Autostart-Überwachung </translation>
+    </message>
+    <message>
+        <source>Checks the programs that start automatically with the system.</source>
+        <translation>Prüft die Programme, die automatisch mit dem System starten.</translation>
+    </message>
+    <message>
+        <source>POP3 Monitoring</source>
+        <translation>POP3-Überwachung</translation>
+    </message>
+    <message>
+        <source>Scans incoming e-mail and attachments as they are downloaded.</source>
+        <translation>Prüft eingehende E-Mails und Anhänge beim Herunterladen.</translation>
+    </message>
+    <message>
+        <source>more...</source>
+        <translation>mehr...</translation>
+    </message>
+    <message>
+        <source>Outlook Scan/Monitoring</source>
+        <translation>Outlook-Prüfung/-Überwachung</translation>
+    </message>
+    <message>
+        <source>Scans e-mail as your e-mail program receives and sends it.</source>
+        <translation>Prüft E-Mails, während Ihr E-Mail-Programm sie empfängt und sendet.</translation>
+    </message>
+    <message>
+        <source>Screen Saver Scan</source>
+        <translation>Bildschirmschoner-Prüfung</translation>
+    </message>
+    <message>
+        <source>Scans the computer while the screen saver is running.</source>
+        <translation>Prüft den Computer, während der Bildschirmschoner läuft.</translation>
+    </message>
+    <message>
+        <source>Set List to Scan</source>
+        <translation>Prüfliste festlegen</translation>
+    </message>
+    <message>
+        <source>Office Guard</source>
+        <translation>Office-Schutz</translation>
+    </message>
+    <message>
+        <source>Protects office documents against macro viruses.</source>
+        <translation>Schützt Office-Dokumente vor Makroviren.</translation>
+    </message>
+    <message>
+        <source>Explorer Scan</source>
+        <translation>Explorer-Prüfung</translation>
+    </message>
+    <message>
+        <source>Adds scan commands to the menus and toolbars of the file browser.</source>
+        <translation>Fügt Menüs und Symbolleisten des Dateimanagers Prüfbefehle hinzu.</translation>
+    </message>
+</context>
+<context>
     <name>Dialog1007</name>
     <message>
         <source>Set List to Scan</source>
@@ -2145,6 +2228,56 @@ They are left as they are. The settings they hold are shown with their default v
 %s
 
 Sie bleiben unverändert. Ihre Einstellungen werden mit den Standardwerten angezeigt, und Änderungen daran können erst gespeichert werden, wenn die Dateien repariert oder entfernt sind.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open link:
+
+</source>
+        <translation>Der Link kann nicht geöffnet werden:
+
+</translation>
+    </message>
+    <message>
+        <source>The operating system is out
+of memory or resources.</source>
+        <translation>Das Betriebssystem hat keinen Speicher
+oder keine Ressourcen mehr.</translation>
+    </message>
+    <message>
+        <source>The specified file was not found.</source>
+        <translation>Die angegebene Datei wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The specified path was not found.</source>
+        <translation>Der angegebene Pfad wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The operating system denied
+access to the specified file.</source>
+        <translation>Das Betriebssystem hat den Zugriff
+auf die angegebene Datei verweigert.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to complete the operation.</source>
+        <translation>Für diesen Vorgang war nicht genügend Speicher vorhanden.</translation>
+    </message>
+    <message>
+        <source>The .EXE file is invalid
+(non-Win32 .EXE or error in .EXE image).</source>
+        <translation>Die Programmdatei ist ungültig
+(kein ausführbares Programm oder fehlerhaftes Abbild).</translation>
+    </message>
+    <message>
+        <source>A sharing violation occurred. </source>
+        <translation>Eine Freigabeverletzung ist aufgetreten. </translation>
+    </message>
+    <message>
+        <source>The specified dynamic-link library was not found.</source>
+        <translation>Die angegebene Programmbibliothek wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Unknown Error (%d) occurred.</source>
+        <translation>Unbekannter Fehler (%d) aufgetreten.</translation>
     </message>
 </context>
 </TS>

@@ -208,6 +208,29 @@ TEST_F(ProgramLauncherTest, NonExecutableFileFails) {
     EXPECT_FALSE(StartProgram(data.string(), {}, directory_.string()));
 }
 
+TEST_F(ProgramLauncherTest, FailureTellsTheErrorOfTheStepThatFailed) {
+    int error = 0;
+    EXPECT_FALSE(StartProgram((directory_ / "no-such-program").string(), {}, "", nullptr, &error));
+    EXPECT_EQ(error, ENOENT);
+    const fs::path data = directory_ / "data.txt";
+    std::ofstream(data) << "#!/bin/sh\nexit 0\n";
+    fs::permissions(data, fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_FALSE(StartProgram(data.string(), {}, "", nullptr, &error));
+    EXPECT_EQ(error, EACCES);
+    EXPECT_FALSE(StartProgram(kHelper, {}, (directory_ / "missing").string(), nullptr, &error));
+    EXPECT_EQ(error, ENOENT);
+    error = 0;
+    EXPECT_FALSE(StartProgram("", {}, "", nullptr, &error));
+    EXPECT_EQ(error, ENOENT);
+}
+
+TEST_F(ProgramLauncherTest, SuccessLeavesTheErrorAlone) {
+    int error = -7;
+    ASSERT_TRUE(StartProgram(kHelper, {"write-args", outfile_.string()}, "", nullptr, &error));
+    EXPECT_EQ(error, -7);
+    EXPECT_TRUE(ReadReport(outfile_).has_value());
+}
+
 TEST_F(ProgramLauncherTest, MissingWorkingDirectoryFails) {
     EXPECT_FALSE(StartWriteArgs(kHelper, {}, (directory_ / "missing").string()));
 }
