@@ -31,13 +31,12 @@
 namespace {
 
 // The forms that are not pages: the shells' dialogs.
-constexpr std::array<int, 3> kShellTemplates = {
-    CConfigDlg::kTemplateId, CPageShellDlg::kTemplateId, CWizardDlg::kTemplateId};
+constexpr std::array<int, 3> kShellTemplates = {CConfigDlg::kTemplateId, CPageShellDlg::kTemplateId,
+                                                CWizardDlg::kTemplateId};
 // The forms of the dialogs that pages open.
 constexpr std::array<int, 6> kPageDialogTemplates = {
-    CScanListDlg::kTemplateId,       CAddFolderDlg::kTemplateId,
-    CAddExtensionDlg::kTemplateId,   CAdvancedScanDlg::kTemplateId,
-    CScheduleWizardDlg::kTemplateId, CAuthorizationDlg::kTemplateId};
+    CScanListDlg::kTemplateId,     CAddFolderDlg::kTemplateId,      CAddExtensionDlg::kTemplateId,
+    CAdvancedScanDlg::kTemplateId, CScheduleWizardDlg::kTemplateId, CAuthorizationDlg::kTemplateId};
 
 std::vector<PageRow> BuiltRows() {
     std::vector<PageRow> rows;
