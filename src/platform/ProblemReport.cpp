@@ -44,6 +44,19 @@ void ReportUnreadableFile(const std::string& path, const std::string& problem) {
     ReportProblem(problem);
 }
 
+namespace {
+
+// A file removed since, or one whose path cannot name a file (a folder of
+// it is a file, or it is longer than the system takes), is no longer
+// unreadable: its reader takes it as missing the next time.
+bool IsGone(const std::string& path) {
+    struct stat info {};
+    if (::lstat(path.c_str(), &info) == 0) return false;
+    return errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG;
+}
+
+}  // namespace
+
 void NoteReadableFile(const std::string& path) {
     const std::lock_guard<std::mutex> guard(g_unreadableMutex);
     const auto known = FindUnreadable(path);
@@ -52,12 +65,7 @@ void NoteReadableFile(const std::string& path) {
 
 std::vector<UnreadableFile> UnreadableFiles() {
     const std::lock_guard<std::mutex> guard(g_unreadableMutex);
-    // A file removed since is no longer unreadable: its reader takes it as
-    // missing the next time.
-    std::erase_if(g_unreadable, [](const UnreadableFile& file) {
-        struct stat info {};
-        return ::lstat(file.path.c_str(), &info) != 0 && errno == ENOENT;
-    });
+    std::erase_if(g_unreadable, [](const UnreadableFile& file) { return IsGone(file.path); });
     return g_unreadable;
 }
 

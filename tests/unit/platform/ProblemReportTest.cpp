@@ -74,3 +74,14 @@ TEST_F(ProblemReportTest, AFileThatIsGoneIsDroppedFromTheList) {
     std::filesystem::remove(a);
     EXPECT_TRUE(ListedPaths().empty());
 }
+
+TEST_F(ProblemReportTest, APathThatCannotNameAFileIsDroppedFromTheList) {
+    ProblemCapture problems;
+    const std::string tooLong = "/" + std::string(300, 'a') + "/" + std::string(300, 'b');
+    const std::string underAFile = install.PathOf("a.dat") + "/inside.dat";
+    const std::string kept = install.PathOf("b.dat");
+    platform::ReportUnreadableFile(tooLong, "name too long");
+    platform::ReportUnreadableFile(underAFile, "not a folder");
+    platform::ReportUnreadableFile(kept, "damaged");
+    EXPECT_EQ(ListedPaths(), std::vector<std::string>{kept});
+}
