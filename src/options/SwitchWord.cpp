@@ -104,3 +104,38 @@ void WriteSwitchMasks(const SwitchMasks& masks) {
     if (masks.scanMail) Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMailMask, *masks.scanMail);
     if (masks.general) Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_GeneralMask, *masks.general);
 }
+
+namespace {
+
+constexpr uint32_t kSystemMonitorBit = 0x1;
+constexpr uint32_t kInternetMonitorBit = 0x2;
+// The bit of a monitor's scan word that says its monitoring is in force.
+constexpr uint32_t kMonitorRunsBit = 0x10000;
+
+void StopMonitorScan(uint32_t section) {
+    const uint32_t options = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
+    Q9CfgE_SetDWEx(section, CEK_ScanOptions, options & ~kMonitorRunsBit);
+}
+
+}  // namespace
+
+void WriteLightEditionSwitches() {
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_Scan, kSystemMonitorBit);
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMask, kSystemMonitorBit);
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMail, 0);
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMailMask, 0);
+    for (const uint32_t section : {CES_Internet, CES_Messenger, CES_Startup}) {
+        StopMonitorScan(section);
+    }
+}
+
+void WriteScanSwitches(uint32_t word, uint32_t flags) {
+    if ((flags & DMF_RemoveInternetMon) == 0) {
+        Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_Scan, word);
+        Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMask, kEveryBit);
+        return;
+    }
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_Scan, word & ~kInternetMonitorBit);
+    Q9CfgE_SetDWEx(CES_Switch, CEK_Switch_ScanMask, ~kInternetMonitorBit);
+    StopMonitorScan(CES_Internet);
+}

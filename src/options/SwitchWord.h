@@ -104,3 +104,14 @@ SwitchMasks WizardSwitchMasks(uint32_t flags);
 
 // Writes the mask words that have a value.
 void WriteSwitchMasks(const SwitchMasks& masks);
+
+// The switches the wizard leaves in a light edition: system monitoring
+// alone, no mail function, and no monitoring in force for the internet,
+// messenger and startup monitors (bit 0x10000 of their CEK_ScanOptions).
+void WriteLightEditionSwitches();
+
+// The scan switch word and its mask as the wizard writes them for a full
+// edition (flags: DMF_*). Without internet monitoring its bit leaves the
+// word and the mask, and its monitor's scan word loses bit 0x10000;
+// otherwise the word is written as it is with the mask -1.
+void WriteScanSwitches(uint32_t word, uint32_t flags);

@@ -17,18 +17,10 @@ constexpr uint32_t kEveryBit = 0xFFFFFFFF;
 // The scan functions a full edition starts with: system monitoring,
 // internet monitoring and the four of 0x10 to 0x80.
 constexpr uint32_t kDefaultScanWord = 0xF3;
-constexpr uint32_t kInternetMonitorBit = 0x2;
 // Both general functions (the tray and automatic system monitoring).
 constexpr uint32_t kDefaultGeneralWord = 0x300000;
-// The bit of a monitor's scan word that says it runs.
-constexpr uint32_t kMonitorRunsBit = 0x10000;
 
 void SetWord(uint32_t key, uint32_t value) { Q9CfgE_SetDWEx(CES_Switch, key, value); }
-
-void StopMonitorScan(uint32_t section) {
-    const uint32_t options = Q9CfgE_GetDWEx(section, CEK_ScanOptions);
-    Q9CfgE_SetDWEx(section, CEK_ScanOptions, options & ~kMonitorRunsBit);
-}
 
 bool CanRun(int32_t item) {
     return g_Siblings.ServiceControl(SC_CanBeRegister, item, kServiceOption) != 0;
@@ -45,28 +37,6 @@ bool TryRegister(int32_t item) {
 
 void TryRegisterAll(std::initializer_list<int32_t> items) {
     for (const int32_t item : items) TryRegister(item);
-}
-
-// The light edition: system monitoring alone, and no monitor scans.
-void SetLightSwitches() {
-    SetWord(CEK_Switch_Scan, 1);
-    SetWord(CEK_Switch_ScanMask, 1);
-    SetWord(CEK_Switch_ScanMail, 0);
-    SetWord(CEK_Switch_ScanMailMask, 0);
-    for (const uint32_t section : {CES_Internet, CES_Messenger, CES_Startup}) {
-        StopMonitorScan(section);
-    }
-}
-
-void SetScanSwitches(uint32_t flags) {
-    if (flags & DMF_RemoveInternetMon) {
-        SetWord(CEK_Switch_Scan, kDefaultScanWord & ~kInternetMonitorBit);
-        SetWord(CEK_Switch_ScanMask, ~kInternetMonitorBit);
-        StopMonitorScan(CES_Internet);
-    } else {
-        SetWord(CEK_Switch_Scan, kDefaultScanWord);
-        SetWord(CEK_Switch_ScanMask, kEveryBit);
-    }
 }
 
 // What the edition has of the mail functions: its mask, the functions to
@@ -103,7 +73,7 @@ void SetMailSwitches(uint32_t flags) {
 }
 
 void SetFullEditionSwitches(uint32_t flags) {
-    SetScanSwitches(flags);
+    WriteScanSwitches(kDefaultScanWord, flags);
     SetMailSwitches(flags);
     TryRegisterAll({SSCT_Q9SHELLEX, SSCT_Q9BAR});
     TryRegisterAll({SSCT_MESSENGER, SSCT_START_PROCESS});
@@ -114,7 +84,7 @@ void SetFullEditionSwitches(uint32_t flags) {
 void ApplyWizardDefaults(uint32_t flags) {
     DropWorkingCopy();
     if (flags & DMF_IsLight) {
-        SetLightSwitches();
+        WriteLightEditionSwitches();
     } else {
         SetFullEditionSwitches(flags);
     }

@@ -34,11 +34,6 @@ constexpr uint32_t kOutlookBits = 0x4000 | 0x8000;  // Outlook scan and monitori
 // The tray icon and the monitor's restart: on whatever the user chose.
 constexpr uint32_t kGeneralBits = 0x300000;
 
-// The light edition switches on System Monitoring alone.
-constexpr uint32_t kLightScanWord = kMonitorBit;
-constexpr uint32_t kLightScanMask = kMonitorBit;
-// Without internet monitoring, its bit is out of the edition's control.
-constexpr uint32_t kNoInternetScanMask = ~kInternetBit;
 // Every bit a box sets.
 constexpr uint32_t kBoxBits = kMonitorBit | kInternetBit | kOfficeBit | kScreenSaverBit |
                               kExplorerBits | kMessengerBit | kStartupBit | kPop3Bit | kOutlookBits;
@@ -46,11 +41,6 @@ constexpr uint32_t kBoxBits = kMonitorBit | kInternetBit | kOfficeBit | kScreenS
 // The monitors whose functions an edition may lack: their scan word loses
 // the bit of monitoring in force.
 constexpr uint32_t kLightMonitorSections[] = {CES_Internet, CES_Messenger, CES_Startup};
-
-void ClearMonitorBit(uint32_t section) {
-    const StoreAddress options = {section, CEK_ScanOptions};
-    WriteWord(options, StoreValues().Word(options) & ~kScanCarried16);
-}
 
 }  // namespace
 
@@ -177,9 +167,9 @@ void CWizardFeaturePage::KeepIfYes(QAbstractButton* box, uint32_t textId, uint32
 void CWizardFeaturePage::SaveMore() {
     const uint32_t scanWord = ScanWordOfBoxes();
     if (Has(DMF_IsLight)) {
-        SaveLightWords();
+        WriteLightEditionSwitches();
     } else {
-        SaveScanWord(scanWord);
+        WriteScanSwitches(scanWord, m_flags);
         SaveMailWord();
     }
     WriteWord(kGeneralWord, StoreValues().Word(kGeneralWord) | kGeneralBits);
@@ -201,27 +191,6 @@ uint32_t CWizardFeaturePage::ScanWordOfBoxes() const {
     word = SetBits(word, kScreenSaverBit, m_ui.screenSaverBox->isChecked());
     word = SetBits(word, kOfficeBit, m_ui.officeBox->isChecked());
     return SetBits(word, kExplorerBits, m_ui.shellBox->isChecked());
-}
-
-void CWizardFeaturePage::SaveScanWord(uint32_t word) {
-    if (!Has(DMF_RemoveInternetMon)) {
-        WriteWord(kScanWord, word);
-        WriteWord(kScanMask, kWholeWord);
-        return;
-    }
-    WriteWord(kScanWord, word & ~kInternetBit);
-    WriteWord(kScanMask, kNoInternetScanMask);
-    ClearMonitorBit(CES_Internet);
-}
-
-// The light edition: System Monitoring alone, whatever the boxes say, and no
-// mail function.
-void CWizardFeaturePage::SaveLightWords() {
-    WriteWord(kScanWord, kLightScanWord);
-    WriteWord(kScanMask, kLightScanMask);
-    WriteWord(kMailWord, 0);
-    WriteWord(kMailMask, 0);
-    for (uint32_t section : kLightMonitorSections) ClearMonitorBit(section);
 }
 
 void CWizardFeaturePage::SaveMailWord() {

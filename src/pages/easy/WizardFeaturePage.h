@@ -57,8 +57,6 @@ private:
 
     // The scan functions' word with each box's bits set or cleared.
     uint32_t ScanWordOfBoxes() const;
-    void SaveScanWord(uint32_t word);
-    void SaveLightWords();
     void SaveMailWord();
     void SaveScreenSaverList();
 
